@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+// Reading and writing Maya ASCII files.
+//
+// Reading runs the file's statements through the MEL interpreter, against a scene of its own and
+// with only those commands that a file may hold. Writing gives a file that reads back equal.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "mel/interpreter.h"
+
+namespace host::ma
+{
+
+// Reads a file into a new scene. Throws Error ("PATH line 12: ...") on a missing, unreadable, cut
+// off, malformed or hostile file, and when progress() cancelled; the session's scene is untouched.
+// What can be left out (a reference, a connection to a node that is not there, an unknown command)
+// is shown as a warning with file and line.
+std::unique_ptr<Scene> readFile(mel::Interpreter &interpreter, const std::string &path);
+
+// Reads the file's statements into the session's scene (file -import), recorded for undo if the
+// session records; names that clash get numbers, or go into `nameSpace` if it is not empty.
+void importFile(mel::Interpreter &interpreter, const std::string &path,
+                const std::string &nameSpace);
+
+// Writes the scene. The file is replaced only when all of it could be written. Throws Error.
+void writeFile(Session &session, const std::string &path);
+
+} // namespace host::ma

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: Apache-2.0
+// Commands as rows of a table: name, flags, function.
+//
+// A command of a family is a function in host/mel/commands; its flags are declared beside it, and
+// the arguments reach it already sorted into flags and objects. A command fails by throwing
+// host::Error with the text after "line N: ".
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "mel/melValue.h"
+#include "scene/session.h"
+
+namespace host::mel
+{
+
+class Interpreter;
+
+// One evaluated argument: its text, and whether it stood in quotes (a quoted "-1" is no flag).
+struct Operand {
+    std::string_view text;
+    bool isQuoted = false;
+    // Throws Error "Invalid arguments ..." when the text is no such thing.
+    double number() const;
+    long long integer() const;
+    bool boolean() const; // true/false, on/off, yes/no, 1/0
+    std::string string() const { return std::string(text); }
+};
+
+struct Flag {
+    const char *shortName; // without dash
+    const char *longName;
+    // One letter per argument: b boolean, i integer, d number, s string. "" for none.
+    const char *arguments = "";
+    enum Options : unsigned {
+        none = 0,
+        multiUse = 1,        // may repeat
+        queryTakesValue = 2, // has its argument in query mode as well
+        rest = 4             // takes all operands up to the next flag
+    };
+    unsigned options = none;
+};
+
+// The arguments of one call, sorted.
+class Arguments
+{
+public:
+    enum class Mode { create, query, edit };
+    Mode mode = Mode::create;
+    bool isQuery() const { return mode == Mode::query; }
+    bool isEdit() const { return mode == Mode::edit; }
+    std::vector<Operand> objects; // what belongs to no flag, in order
+
+    // By long name. A flag that is not declared is a programming error (assert).
+    bool has(std::string_view longName) const;
+    std::size_t uses(std::string_view longName) const;
+    // The operands of the n-th use; REQUIRES: uses(longName) > use.
+    const std::vector<Operand> &of(std::string_view longName, std::size_t use = 0) const;
+    // The first operand of the first use, or the fallback.
+    double number(std::string_view longName, double fallback) const;
+    long long integer(std::string_view longName, long long fallback) const;
+    bool boolean(std::string_view longName, bool fallback) const;
+    std::string string(std::string_view longName, std::string_view fallback = "") const;
+    // Flags in the order of the call: long name and use, for commands to which the order matters.
+    std::vector<std::pair<std::string, std::size_t>> order;
+
+private:
+    friend class CommandTable;
+    friend struct ArgumentSorter;
+    std::map<std::string, std::vector<std::vector<Operand>>, std::less<>> flags_;
+};
+
+// What a command may touch. `currentNode` is the node that relative plugs (".t") and addAttr,
+// rename -uid and lockNode without a name mean while a file is read; null otherwise.
+struct Context {
+    Session &session;
+    Interpreter &interpreter;
+    NodePtr *currentNode = nullptr;
+    bool isReadingFile = false;
+    std::size_t fileSize = 0; // bytes of the file that is read: bounds what it may announce
+    Scene *target = nullptr;  // the scene that a file is read into
+
+    Scene &scene() { return target ? *target : session.scene(); }
+};
+
+using CommandFunction = std::function<MelValue(Context &, const Arguments &)>;
+
+struct Command {
+    std::string name;
+    std::vector<Flag> flags;
+    CommandFunction run;
+    // Whether a call is an item of its own on the undo queue (what it records decides in the end).
+    bool isUndoable = true;
+    // Whether a file may contain it.
+    bool isFileStatement = false;
+    // Takes its operands unsorted, flags among them: plug-in commands, which sort with MSyntax.
+    bool takesRawArguments = false;
+    // True for commands that a plug-in registered.
+    bool isFromPlugin = false;
+};
+
+class CommandTable
+{
+public:
+    // False if the name is taken.
+    bool add(Command command);
+    bool remove(std::string_view name);
+    const Command *find(std::string_view name) const;
+    std::vector<std::string> names() const; // sorted
+
+    // Sorts evaluated operands by the command's flags. Throws Error: "Invalid flag '-xyz'", too few
+    // arguments for a flag, a flag repeated that may not.
+    static Arguments sort(const Command &command, const std::vector<Operand> &operands,
+                          bool isFunctionForm);
+
+private:
+    std::unordered_map<std::string, Command> commands_;
+};
+
+} // namespace host::mel

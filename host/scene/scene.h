@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: Apache-2.0
+// The scene: all nodes, their names, and every change to them.
+//
+// Each changing function does its work at once and hands the way back and forth to the recorder, if
+// one is set: undo is the recorded changes in reverse. What is done without a recorder (plug writes
+// through the API, reading a file) cannot be undone. All functions throw Error and change nothing
+// when they refuse, unless they say otherwise.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include "scene/dagPath.h"
+#include "scene/error.h"
+#include "scene/node.h"
+#include "scene/nodeType.h"
+
+namespace host
+{
+
+// One change that has been made: `undo` takes it back, `redo` makes it again.
+struct Change {
+    std::function<void()> undo;
+    std::function<void()> redo;
+};
+using ChangeRecorder = std::function<void(Change)>;
+
+// What a file says about itself beside its nodes. Statements are kept as text with their `;`.
+struct FileFacts {
+    std::string mayaVersion = "2017";         // of the header line and `requires maya`
+    std::vector<std::string> requiredPlugins; // "requires ..." statements but maya's
+    std::vector<std::pair<std::string, std::string>> fileInfo; // in order
+    std::string linearUnit = "centimeter";
+    std::string angularUnit = "degree";
+    std::string timeUnit = "film";
+    std::vector<std::string> references; // "file -rdi ...", "file -r ..."
+    std::vector<std::string> trailing;   // relationship, dataStructure, applyMetadata
+    bool hasLongNames = false;           // the file wrote long flags and attribute names
+};
+
+class Scene
+{
+public:
+    Scene(); // the default nodes and the four default cameras
+    ~Scene();
+    Scene(const Scene &) = delete;
+    Scene &operator=(const Scene &) = delete;
+
+    FileFacts facts;
+    NodeTypes &types() { return types_; }
+    const NodeTypes &types() const { return types_; }
+
+    // --- Finding ------------------------------------------------------------------------------
+    // All nodes in order of creation; the world is not among them.
+    std::vector<NodePtr> nodes() const;
+    std::size_t nodeCount() const { return nodes_.size(); }
+    const NodePtr &world() const { return world_; } // parent of the topmost DAG nodes
+    // Nodes of that name ("hip", "rig:hip", ":hip" for the root namespace). No paths.
+    std::vector<NodePtr> nodesNamed(std::string_view name) const;
+    // Paths that a name or partial path ("left|hip", "|root|hip", "hip") can mean. DAG nodes only.
+    std::vector<DagPath> pathsMatching(std::string_view name) const;
+    // The one node that a name or path means; throws no such object / ambiguous name.
+    NodePtr node(std::string_view name) const;
+    // The same, null instead of an error when there is none (an ambiguous name still throws).
+    NodePtr findNode(std::string_view name) const;
+    std::vector<std::string> namespaces() const;
+
+    // --- Nodes --------------------------------------------------------------------------------
+    enum class UnknownType { refuse, learn };
+    // `name` empty: the type's name with a number; a name that is taken gets the next free number;
+    // '#' at its end stands for a number. DAG nodes go below `parent`, or the world. A shape
+    // without a parent gets a transform, as Maya does it; the shape is what comes back.
+    NodePtr createNode(std::string_view type, std::string_view name, const NodePtr &parent = {},
+                       UnknownType unknown = UnknownType::refuse);
+    // createNode -s: the node of that name if there is one, else a new one.
+    NodePtr createSharedNode(std::string_view type, std::string_view name, const NodePtr &parent);
+    // A node that exists in every scene ("select -ne :defaultArnoldRenderOptions" in a file).
+    NodePtr defaultNode(std::string_view name);
+    // With everything below it; its connections are cut. Default and locked nodes are refused.
+    void deleteNode(const NodePtr &node);
+    // Returns the name given: a clash gets a number. Locked nodes are refused.
+    std::string rename(const NodePtr &node, std::string_view name);
+    void setUuid(const NodePtr &node, std::string_view uuid);
+    void setNodeLock(const NodePtr &node, bool locked, bool lockUnpublished);
+    void keepStatement(const NodePtr &node, std::string statement);
+
+    // --- DAG ----------------------------------------------------------------------------------
+    // Moves `node` from one parent to another (the world for none), last among its children. A
+    // parent below the node, or a shape as parent, is refused. A name clash gets a number.
+    void reparent(const NodePtr &node, const NodePtr &oldParent, const NodePtr &newParent);
+    void addInstance(const NodePtr &node, const NodePtr &parent);
+    void removeInstance(const NodePtr &node, const NodePtr &parent);
+
+    // --- Attributes and values ----------------------------------------------------------------
+    // A dynamic attribute, with its children. Refused: a name that is taken, a locked node.
+    void addAttribute(const NodePtr &node, const AttributePtr &attribute);
+    void removeAttribute(const NodePtr &node, const AttributePtr &attribute);
+    // Sets a complete leaf plug. Checks nothing but the shape: locks and ranges are the caller's,
+    // see isSettable(). Integers and floats are rounded to their kind.
+    void setValue(const Plug &plug, Value value);
+    // Sets consecutive elements of a packed array from `first` on.
+    void setNumbers(const Plug &wholeArray, int first, const std::vector<double> &numbers);
+    // Keeps an opaque value for a range of elements, first to last.
+    void setOpaqueRange(const Plug &wholeArray, int first, int last, OpaqueValue value);
+    // Makes sure that the element exists, with its default value.
+    void addElement(const Plug &element);
+    void removeElement(const Plug &element);
+    void setState(const Plug &plug, const PlugState &state);
+    // Replaces rows of a skin cluster's weights. rows[k] belongs to vertices[k].
+    void setWeightRows(const NodePtr &skinCluster, const std::vector<std::size_t> &vertices,
+                       const std::vector<std::vector<skin::WeightStore::Entry>> &rows);
+    // The weights for a file reader or the bind, which fill them at once; not recorded.
+    skin::WeightStore &editWeights(const NodePtr &skinCluster);
+
+    // --- Connections --------------------------------------------------------------------------
+    // Both plugs complete. Refused: an occupied or locked destination (unless `force`).
+    void connect(const Plug &source, const Plug &destination, bool force = false,
+                 bool lock = false);
+    void disconnect(const Plug &source, const Plug &destination);
+    // The element that connectAttr -nextAvailable takes: the first without a connection.
+    int nextAvailable(const Plug &wholeArray) const;
+
+    // --- Recording ----------------------------------------------------------------------------
+    void setRecorder(ChangeRecorder recorder) { recorder_ = std::move(recorder); }
+    const ChangeRecorder &recorder() const { return recorder_; }
+    // True once anything was changed since it was last set to false.
+    bool isModified() const { return isModified_; }
+    void setModified(bool modified) { isModified_ = modified; }
+
+private:
+    friend struct SceneEdit;
+    void record(std::function<void()> redo, std::function<void()> undo);
+    void addDefaultNodes();
+    NodePtr addNode(const NodeType &type, std::string name, const NodePtr &parent);
+    void enter(const NodePtr &node);
+    void leave(const NodePtr &node);
+    std::string freeName(std::string_view wanted, bool isDag, const Node *parent) const;
+
+    NodeTypes types_;
+    NodePtr world_;
+    std::map<unsigned long, NodePtr> nodes_; // by serial number
+    std::unordered_map<std::string, std::vector<NodePtr>> byName_;
+    mutable std::unordered_map<std::string, unsigned> nextNumber_; // per name stem
+    unsigned long nextSerial_ = 0;
+    ChangeRecorder recorder_;
+    bool isModified_ = false;
+};
+
+// Switches recording off for a while.
+class RecordingPause
+{
+public:
+    explicit RecordingPause(Scene &scene);
+    ~RecordingPause();
+    RecordingPause(const RecordingPause &) = delete;
+    RecordingPause &operator=(const RecordingPause &) = delete;
+
+private:
+    Scene &scene_;
+    ChangeRecorder saved_;
+};
+
+// Whether a value may be set: not locked (it, an ancestor, a child), no incoming connection.
+bool isSettable(const Plug &plug);
+
+// The value of a complete leaf plug as Maya's evaluation gives it: that of its source if it is
+// connected, the derived one of computed attributes (worldMatrix), else the stored one.
+Value evaluate(const Plug &plug);
+double evaluateNumber(const Plug &plug);
+
+} // namespace host

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: Apache-2.0
+// A skinCluster node seen as what it is: influences, weights, locks and the rules of writing them.
+//
+// Two numberings: the logical index is that of matrix[i], weightList[v].weights[i] and
+// lockWeights[i] and has gaps; the physical index is the position in influences(), 0 to n-1.
+// Everything below takes and gives physical indices.
+#pragma once
+
+#include <vector>
+
+#include "scene/dagPath.h"
+#include "scene/meshGeometry.h"
+#include "skin/writeRule.h"
+
+namespace host
+{
+
+struct Influence {
+    unsigned logicalIndex = 0;
+    DagPath path;
+};
+
+// What a write tells its caller; each warning is to be shown once per call.
+struct SkinWriteResult {
+    bool couldNotSet = false;
+    bool locksPreventedMax = false;
+};
+
+class SkinCluster
+{
+public:
+    // REQUIRES: node->isA("skinCluster"). Reads the influences once; make a new one after changes.
+    explicit SkinCluster(NodePtr node);
+
+    const NodePtr &node() const { return node_; }
+    // Connected elements of `matrix`, ascending logical index.
+    const std::vector<Influence> &influences() const { return influences_; }
+    // Physical index of an influence; -1 if the node is none.
+    int indexOf(const Node &influence) const;
+    std::vector<bool> locks() const;                    // lockInfluenceWeights of every influence
+    skin::WriteSettings settings(bool normalize) const; // normalizeWeights, maxInfluences, ...
+    NodePtr shape() const;                              // the deformed shape; null if none
+    // Rows of the weight list: at least as many as the shape has vertices once it is bound.
+    std::size_t vertexCount() const;
+
+    // Dense weights of the vertices, vertex-major, one column per influence. `out` has
+    // vertices.size() * influences().size() places.
+    void read(const std::vector<int> &vertices, double *out) const;
+
+    // Gives each vertex the values: `values` has one row for all vertices, or one per vertex, with
+    // a column per entry of `indices`. Follows the write rule with locks and settings. `oldWeights`
+    // (may be null) gets the dense weights from before. Throws Error on an index or length that
+    // does not fit and on NaN; then nothing is written. Recorded when the scene records.
+    SkinWriteResult write(const std::vector<int> &vertices, const std::vector<int> &indices,
+                          const std::vector<double> &values, bool normalize,
+                          std::vector<double> *oldWeights = nullptr) const;
+
+    // Replaces dense rows (a column per influence) as they are, no rule applied. Recorded.
+    void store(const std::vector<int> &vertices, const double *rows) const;
+
+    // Shares for free influences at a vertex, by weightDistribution, from the bind pose.
+    std::vector<double> createWeights(int vertex, const std::vector<std::size_t> &free) const;
+
+private:
+    NodePtr node_;
+    std::vector<Influence> influences_;
+    std::vector<std::int32_t> columnOfLogical_; // logical index -> physical, -1 for gaps
+};
+
+} // namespace host
