@@ -72,4 +72,4 @@ typedef MStatus MS;
     }
 #define CHECK_MSTATUS(_status) MAYA_REPORT_STATUS(_status, (void)0)
 #define CHECK_MSTATUS_AND_RETURN(_status, _retVal) MAYA_REPORT_STATUS(_status, return (_retVal))
-#define CHECK_MSTATUS_AND_RETURN_IT(_status) CHECK_MSTATUS_AND_RETURN((_status), _maya_status)
+#define CHECK_MSTATUS_AND_RETURN_IT(_status) CHECK_MSTATUS_AND_RETURN((_status), (_status))
