@@ -14,6 +14,8 @@
 namespace host::mel
 {
 
+class PluginLoader;
+
 struct RunOptions {
     bool echo = false;         // show the text and its result (executeCommand's displayEnabled)
     bool undo = false;         // keep what can be undone; false: nothing is recorded
@@ -39,6 +41,9 @@ public:
 
     // Runs one parsed statement in `context`; used by the reader of files too. Throws Error.
     MelValue call(Context &context, const Statement &statement);
+
+    // What loadPlugin works with (pluginLoader.h); not owned. Null: there are no plug-ins.
+    PluginLoader *pluginLoader = nullptr;
 
     // Set by the quit command: the program should end with this code once the text is done.
     bool quitRequested = false;
