@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "mel/commands/builtInCommands.h"
+
+#include "mel/interpreter.h"
+
+namespace host::mel
+{
+
+void addBuiltInCommands(CommandTable &table)
+{
+    addSetAttrCommand(table);
+    addGetAttrCommand(table);
+    addAttributeCommands(table);
+    addConnectionCommands(table);
+    addNodeCommands(table);
+    addListCommand(table);
+    addDagCommands(table);
+    addTransformCommands(table);
+    addSelectionCommands(table);
+    addPrimitiveCommands(table);
+    addJointCommands(table);
+    addSkinClusterCommands(table);
+    addSkinPercentCommands(table);
+    addFileCommand(table);
+    addFileStatementCommands(table);
+    addUndoCommands(table);
+    addSystemCommands(table);
+    addPluginCommands(table);
+}
+
+} // namespace host::mel
