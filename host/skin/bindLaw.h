@@ -27,11 +27,17 @@ struct BindInfluence {
 // The distance from a point to the nearest bone of the influence.
 double distanceToInfluence(const Vec3 &vertex, const BindInfluence &influence);
 
-// Its square, which saves callers that compare or take a power of it the root.
+// Its square, which spares callers that compare it or take a power of it the root.
 double squaredDistanceToInfluence(const Vec3 &vertex, const BindInfluence &influence);
 
-// 1 / distance^dropoff for a squared distance; infinite at distance 0.
-double rawWeight(double squaredDistance, double dropoff);
+// The raw weights of influences at these distances, up to a common factor; finite, and one of them
+// at least is above 0. Distance 0 gives 1 there and 0 everywhere else. Distances without a meaning
+// (NaN, infinity) count as far away; if all are, the weights are equal.
+struct InfluenceDistance {
+    double squared;
+    double dropoff;
+};
+std::vector<double> rawWeights(const std::vector<InfluenceDistance> &distances);
 
 // The weights of a vertex for all influences, in their order: at most maxInfluences of them (0: no
 // limit) above 0, with sum 1. Of equal raw weights the lower index is kept. An influence at

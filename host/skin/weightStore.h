@@ -127,11 +127,13 @@ public:
 private:
     static constexpr std::size_t kPageRows = 32;
 
+    // Row s of a page is entries [starts[s], starts[s + 1]); it exists if bit s of existing is set.
     struct Page {
-        std::uint32_t existing = 0; // bit s: row s exists
-        std::array<std::uint32_t, kPageRows + 1>
-            starts{}; // row s is entries [starts[s], starts[s + 1])
+        std::uint32_t existing = 0;
+        std::array<std::uint32_t, kPageRows + 1> starts{};
         std::vector<Entry> entries;
+
+        bool operator==(const Page &other) const;
     };
     struct PageSlot {
         std::size_t number; // of the page: its first row is number * kPageRows

@@ -104,9 +104,8 @@ bool normalizeRow(double *weights, std::size_t count, const std::vector<bool> &l
 // skinPercent -pruneWeights: unlocked weights strictly below `threshold` become 0, then, with
 // interactive mode and `normalize`, the unlocked ones left are scaled to sum 1 with the locked
 // ones. If none would be left, the largest stays and gets that room, so that pruning never makes up
-// weights on other influences. The limit of influences in `settings` is not looked at. True if a
-// weight changed.
-bool pruneRow(double *weights, std::size_t count, double threshold, const std::vector<bool> &locked,
+// weights on other influences. The limit of influences in `settings` is not looked at.
+void pruneRow(double *weights, std::size_t count, double threshold, const std::vector<bool> &locked,
               const WriteSettings &settings);
 
 // skinPercent -zeroRemainingInfluences: the assignments, followed by a 0 for each of the `count`
