@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: Apache-2.0
+// What belongs to a set.
+#pragma once
+
+#include <vector>
+
+#include "scene/selection.h"
+
+namespace host
+{
+
+// Members in the order in which they are connected: whole objects (as the transform of a shape),
+// components of shapes, and nodes outside the DAG. A deformer's set keeps its components in the
+// groupParts node of the same group, any other in the shape. REQUIRES: set.isA("objectSet").
+std::vector<SelectionItem> setMembers(const Node &set);
+
+} // namespace host
