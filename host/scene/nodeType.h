@@ -23,6 +23,7 @@ public:
     const NodeType *base = nullptr;       // null for "node", the root of all types
     bool isKnown = true;                  // false: met in a file only
     std::vector<AttributePtr> attributes; // top level, inherited ones first
+    unsigned orderEnd = 0;                // one past the highest Attribute::order of this type
 
     // True for this type and all that it derives from: isA("dagNode").
     bool isA(std::string_view typeName) const;

@@ -16,6 +16,7 @@
 #include <utility>
 #include <vector>
 
+#include "scene/change.h"
 #include "scene/dagPath.h"
 #include "scene/error.h"
 #include "scene/node.h"
@@ -23,13 +24,6 @@
 
 namespace host
 {
-
-// One change that has been made: `undo` takes it back, `redo` makes it again.
-struct Change {
-    std::function<void()> undo;
-    std::function<void()> redo;
-};
-using ChangeRecorder = std::function<void(Change)>;
 
 // What a file says about itself beside its nodes. Statements are kept as text with their `;`.
 struct FileFacts {
@@ -127,20 +121,24 @@ public:
     int nextAvailable(const Plug &wholeArray) const;
 
     // --- Recording ----------------------------------------------------------------------------
-    void setRecorder(ChangeRecorder recorder) { recorder_ = std::move(recorder); }
-    const ChangeRecorder &recorder() const { return recorder_; }
+    // Not owned; null for none.
+    void setRecorder(ChangeRecorder *recorder) { recorder_ = recorder; }
+    ChangeRecorder *recorder() const { return recorder_; }
+    bool isRecording() const { return recorder_ && recorder_->isRecording(); }
     // True once anything was changed since it was last set to false.
     bool isModified() const { return isModified_; }
     void setModified(bool modified) { isModified_ = modified; }
 
 private:
     friend struct SceneEdit;
-    void record(std::function<void()> redo, std::function<void()> undo);
+    // Runs `redo` and hands both to the recorder.
+    void perform(std::function<void()> redo, std::function<void()> undo);
     void addDefaultNodes();
     NodePtr addNode(const NodeType &type, std::string name, const NodePtr &parent);
     void enter(const NodePtr &node);
     void leave(const NodePtr &node);
     std::string freeName(std::string_view wanted, bool isDag, const Node *parent) const;
+    static void cut(const Plug &source, const Plug &destination);
 
     NodeTypes types_;
     NodePtr world_;
@@ -148,7 +146,7 @@ private:
     std::unordered_map<std::string, std::vector<NodePtr>> byName_;
     mutable std::unordered_map<std::string, unsigned> nextNumber_; // per name stem
     unsigned long nextSerial_ = 0;
-    ChangeRecorder recorder_;
+    ChangeRecorder *recorder_ = nullptr;
     bool isModified_ = false;
 };
 
@@ -163,7 +161,7 @@ public:
 
 private:
     Scene &scene_;
-    ChangeRecorder saved_;
+    ChangeRecorder *saved_;
 };
 
 // Whether a value may be set: not locked (it, an ancestor, a child), no incoming connection.

@@ -71,7 +71,6 @@ public:
     bool redoOnce();
 
 private:
-    void attachRecorder();
     void restoreSelection(const SelectionList &list, const SelectionList &ordered);
 
     Mode mode_;

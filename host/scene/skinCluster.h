@@ -6,6 +6,8 @@
 // Everything below takes and gives physical indices.
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <vector>
 
 #include "scene/dagPath.h"
@@ -58,10 +60,27 @@ public:
     // Replaces dense rows (a column per influence) as they are, no rule applied. Recorded.
     void store(const std::vector<int> &vertices, const double *rows) const;
 
-    // Shares for free influences at a vertex, by weightDistribution, from the bind pose.
-    std::vector<double> createWeights(int vertex, const std::vector<std::size_t> &free) const;
+    // One vertex while its row is edited: dense weights and the rules that hold for them.
+    struct RowRule {
+        double *weights;
+        const std::vector<bool> &locked;
+        const skin::WriteSettings &settings;
+        const skin::CreateWeights &createWeights; // by weightDistribution, from the bind pose
+    };
+    // Changes the weights of vertices[place]; called in the order of `vertices`.
+    using RowEdit = std::function<skin::WriteOutcome(std::size_t place, const RowRule &rule)>;
+    // Runs `change` on each vertex's row and stores the outcome in one recorded change: what write,
+    // pruning and forced normalisation are made of. REQUIRES: vertices below vertexCount().
+    SkinWriteResult edit(const std::vector<int> &vertices, const RowEdit &change,
+                         bool normalize) const;
 
 private:
+    struct BindPose;
+    std::shared_ptr<const BindPose> bindPose() const;
+    std::vector<double> createWeights(const BindPose &pose, int vertex,
+                                      const std::vector<std::size_t> &free) const;
+    std::vector<skin::Entry> sparseRow(std::size_t vertex, const double *dense) const;
+
     NodePtr node_;
     std::vector<Influence> influences_;
     std::vector<std::int32_t> columnOfLogical_; // logical index -> physical, -1 for gaps

@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "scene/change.h"
+
 namespace host
 {
 
@@ -20,14 +22,15 @@ struct UndoStep {
     std::function<bool()> redo;
 };
 
-class UndoQueue
+class UndoQueue : public ChangeRecorder
 {
 public:
     bool isOn() const { return isOn_; }
     // Switching off flushes unless `flush` is false.
     void setOn(bool on, bool flush = true);
     // True while a step would be kept: on, a chunk open, not suspended, not undoing.
-    bool isRecording() const;
+    bool isRecording() const override;
+    void recordChange(Change change) override;
     // Nothing is recorded while suspended; calls nest (executeCommand without undo).
     void suspend() { ++suspended_; }
     void resume() { --suspended_; }

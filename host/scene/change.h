@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: Apache-2.0
+// What passes from the scene to the undo queue.
+#pragma once
+
+#include <functional>
+
+namespace host
+{
+
+// One change that has been made: `undo` takes it back, `redo` makes it again.
+struct Change {
+    std::function<void()> undo;
+    std::function<void()> redo;
+};
+
+class ChangeRecorder
+{
+public:
+    virtual ~ChangeRecorder() = default;
+    // While false, the scene does not even gather what an undo would need.
+    virtual bool isRecording() const = 0;
+    virtual void recordChange(Change change) = 0;
+};
+
+} // namespace host

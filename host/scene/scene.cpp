@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: Apache-2.0
+// Finding nodes, and the scene as it starts.
+#include "scene/scene.h"
+
+#include <algorithm>
+#include <set>
+
+namespace host
+{
+
+namespace
+{
+
+struct DefaultNode {
+    const char *type;
+    const char *name;
+};
+
+// Nodes that every scene has and that files name without creating them.
+constexpr DefaultNode kDefaultNodes[] = {
+    {"time", "time1"},
+    {"sequenceManager", "sequenceManager1"},
+    {"hardwareRenderingGlobals", "hardwareRenderingGlobals"},
+    {"partition", "renderPartition"},
+    {"renderGlobalsList", "renderGlobalsList1"},
+    {"defaultLightList", "defaultLightList1"},
+    {"defaultShaderList", "defaultShaderList1"},
+    {"postProcessList", "postProcessList1"},
+    {"defaultRenderUtilityList", "defaultRenderUtilityList1"},
+    {"defaultRenderingList", "defaultRenderingList1"},
+    {"lightList", "lightList1"},
+    {"defaultTextureList", "defaultTextureList1"},
+    {"lambert", "lambert1"},
+    {"particleCloud", "particleCloud1"},
+    {"shadingEngine", "initialShadingGroup"},
+    {"shadingEngine", "initialParticleSE"},
+    {"materialInfo", "initialMaterialInfo"},
+    {"renderGlobals", "defaultRenderGlobals"},
+    {"renderQuality", "defaultRenderQuality"},
+    {"resolution", "defaultResolution"},
+    {"objectSet", "defaultLightSet"},
+    {"objectSet", "defaultObjectSet"},
+    {"viewColorManager", "defaultViewColorManager"},
+    {"hardwareRenderGlobals", "hardwareRenderGlobals"},
+    {"hwRenderGlobals", "defaultHardwareRenderGlobals"},
+    {"partition", "characterPartition"},
+    {"ikSystem", "ikSystem"},
+    {"hyperGraphInfo", "hyperGraphInfo"},
+    {"hyperLayout", "hyperGraphLayout"},
+    {"globalCacheControl", "globalCacheControl"},
+    {"dof", "dof1"},
+    {"colorManagementGlobals", "defaultColorMgtGlobals"},
+};
+
+struct DefaultCamera {
+    const char *name;
+    double translate[3];
+    double rotate[3];
+    bool isOrthographic;
+};
+
+// Where Maya puts the four cameras of a new scene (centimetres, degrees).
+constexpr DefaultCamera kDefaultCameras[] = {
+    {"persp", {28, 21, 28}, {-27.938352729602379, 45, 0}, false},
+    {"top", {0, 1000.1, 0}, {-90, 0, 0}, true},
+    {"front", {0, 0, 1000.1}, {0, 0, 0}, true},
+    {"side", {1000.1, 0, 0}, {0, 90, 0}, true},
+};
+
+void addDefaultCamera(Scene &scene, const DefaultCamera &camera)
+{
+    const NodePtr transform = scene.createSharedNode("transform", camera.name, nullptr);
+    scene.setValue(transform->plug("visibility"), 0.0);
+    static constexpr const char *kTranslate[] = {"tx", "ty", "tz"};
+    static constexpr const char *kRotate[] = {"rx", "ry", "rz"};
+    for (int i = 0; i < 3; ++i) {
+        scene.setValue(transform->plug(kTranslate[i]), camera.translate[i]);
+        scene.setValue(transform->plug(kRotate[i]), camera.rotate[i]);
+    }
+    const NodePtr shape =
+        scene.createSharedNode("camera", std::string(camera.name) + "Shape", transform);
+    if (camera.isOrthographic)
+        scene.setValue(shape->plug("orthographic"), 1.0);
+}
+
+// "ns:a" of "|ns:a", ":a" and "a".
+std::string_view withoutRootColon(std::string_view name)
+{
+    if (!name.empty() && name.front() == ':')
+        name.remove_prefix(1);
+    return name;
+}
+
+std::vector<std::string_view> splitPath(std::string_view name)
+{
+    std::vector<std::string_view> parts;
+    while (true) {
+        const std::size_t bar = name.find('|');
+        parts.push_back(withoutRootColon(name.substr(0, bar)));
+        if (bar == std::string_view::npos)
+            return parts;
+        name.remove_prefix(bar + 1);
+    }
+}
+
+bool endsWith(const DagPath &path, const std::vector<std::string_view> &parts, bool isRooted)
+{
+    const std::vector<NodePtr> &nodes = path.nodes();
+    if (parts.size() > nodes.size() || (isRooted && parts.size() != nodes.size()))
+        return false;
+    return std::equal(
+        parts.rbegin(), parts.rend(), nodes.rbegin(),
+        [](std::string_view part, const NodePtr &node) { return part == node->name(); });
+}
+
+} // namespace
+
+Scene::Scene()
+{
+    world_ = std::make_shared<Node>(*this, types_.findOrLearn("world", "dagNode"), "world");
+    addDefaultNodes();
+    isModified_ = false;
+}
+
+// Nodes that somebody still holds must see that their scene is gone.
+Scene::~Scene()
+{
+    const auto cutOff = [](const NodePtr &node) {
+        node->scene_ = nullptr;
+        node->parents_.clear();
+        node->children_.clear();
+        node->sources_.clear();
+        node->destinations_.clear();
+    };
+    for (const auto &entry : nodes_)
+        cutOff(entry.second);
+    cutOff(world_);
+}
+
+void Scene::addDefaultNodes()
+{
+    for (const DefaultNode &row : kDefaultNodes)
+        addNode(types_.findOrLearn(row.type, "node"), row.name, nullptr)->isDefault_ = true;
+    for (const DefaultCamera &camera : kDefaultCameras)
+        addDefaultCamera(*this, camera);
+}
+
+std::vector<NodePtr> Scene::nodes() const
+{
+    std::vector<NodePtr> all;
+    all.reserve(nodes_.size());
+    for (const auto &entry : nodes_)
+        all.push_back(entry.second);
+    return all;
+}
+
+std::vector<NodePtr> Scene::nodesNamed(std::string_view name) const
+{
+    const auto found = byName_.find(std::string(withoutRootColon(name)));
+    return found == byName_.end() ? std::vector<NodePtr>() : found->second;
+}
+
+std::vector<DagPath> Scene::pathsMatching(std::string_view name) const
+{
+    std::vector<DagPath> paths;
+    const bool isRooted = !name.empty() && name.front() == '|';
+    const std::vector<std::string_view> parts = splitPath(isRooted ? name.substr(1) : name);
+    for (const NodePtr &node : nodesNamed(parts.back())) {
+        if (!node->isDag())
+            continue;
+        for (const DagPath &path : DagPath::all(node)) {
+            if (endsWith(path, parts, isRooted))
+                paths.push_back(path);
+        }
+    }
+    return paths;
+}
+
+NodePtr Scene::node(std::string_view name) const
+{
+    NodePtr found = findNode(name);
+    if (!found)
+        throwNoSuchObject(std::string(name));
+    return found;
+}
+
+NodePtr Scene::findNode(std::string_view name) const
+{
+    std::vector<NodePtr> matches;
+    if (name.find('|') == std::string_view::npos) {
+        matches = nodesNamed(name);
+    } else {
+        for (const DagPath &path : pathsMatching(name)) {
+            if (std::find(matches.begin(), matches.end(), path.node()) == matches.end())
+                matches.push_back(path.node());
+        }
+    }
+    if (matches.size() > 1)
+        throwAmbiguousName(std::string(name));
+    return matches.empty() ? nullptr : matches.front();
+}
+
+std::vector<std::string> Scene::namespaces() const
+{
+    std::set<std::string> names;
+    for (const auto &entry : nodes_) {
+        const std::string &name = entry.second->name();
+        for (std::size_t colon = name.find(':'); colon != std::string::npos;
+             colon = name.find(':', colon + 1))
+            names.insert(name.substr(0, colon));
+    }
+    return std::vector<std::string>(names.begin(), names.end());
+}
+
+void Scene::perform(std::function<void()> redo, std::function<void()> undo)
+{
+    redo();
+    isModified_ = true;
+    if (isRecording())
+        recorder_->recordChange({std::move(undo), std::move(redo)});
+}
+
+RecordingPause::RecordingPause(Scene &scene) : scene_(scene), saved_(scene.recorder())
+{
+    scene_.setRecorder(nullptr);
+}
+
+RecordingPause::~RecordingPause()
+{
+    scene_.setRecorder(saved_);
+}
+
+} // namespace host

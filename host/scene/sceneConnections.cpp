@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: Apache-2.0
+// Connections between plugs, and the values that flow through them.
+#include <algorithm>
+
+#include "scene/plugAccess.h"
+#include "scene/scene.h"
+#include "scene/transform.h"
+
+namespace host
+{
+
+namespace
+{
+
+Connection endOf(const Plug &plug, bool isLocked)
+{
+    Connection end;
+    end.node = plug.node.get();
+    end.attribute = plug.attribute;
+    end.indices = plug.indices;
+    end.isLocked = isLocked;
+    return end;
+}
+
+bool isEnd(const Connection &connection, const Plug &plug)
+{
+    return connection.node == plug.node.get() && connection.attribute == plug.attribute &&
+           connection.indices == plug.indices;
+}
+
+// Arrays on the way to a connected plug get the elements that the connection names.
+void addElementsOnTheWay(Scene &scene, const Plug &plug)
+{
+    Plug step(plug.node, plug.attribute);
+    const AttributeChain chain(*plug.attribute);
+    for (unsigned i = 0; i < chain.size(); ++i) {
+        step.indices[i] = plug.indices[i];
+        if (plug.indices[i] == kNoIndex || chain[i]->isComputed)
+            continue;
+        Plug element = step;
+        element.attribute = ownerOf(*plug.node, *chain[i]);
+        scene.addElement(element);
+    }
+}
+
+bool isLockedHereOrAbove(const Plug &plug)
+{
+    for (Plug step = plug; !step.isNull(); step = step.parent()) {
+        if (step.node->state(step).isLocked)
+            return true;
+    }
+    return false;
+}
+
+bool isConnectedHereOrAbove(const Plug &plug)
+{
+    for (Plug step = plug; !step.isNull(); step = step.parent()) {
+        if (step.node->source(step))
+            return true;
+    }
+    return false;
+}
+
+// The plug whose value arrives at `plug`: the source of itself or, where a parent is connected, the
+// matching child of the parent's source. Null if nothing is connected.
+Plug sourceFor(const Plug &plug)
+{
+    if (const Connection *connection = plug.node->source(plug))
+        return connection->plug();
+    if (!plug.attribute->parent)
+        return Plug();
+    const Plug parent = plug.parent();
+    if (parent.isNull())
+        return Plug();
+    const Plug parentSource = sourceFor(parent);
+    if (parentSource.isNull() || plug.isElement())
+        return Plug();
+    const std::size_t place = placeAmongSiblings(*plug.attribute);
+    const std::vector<AttributePtr> &children = parentSource.attribute->children;
+    return place < children.size() ? parentSource.child(children[place]) : Plug();
+}
+
+struct DerivedMatrix {
+    std::string_view attribute;
+    Matrix (*compute)(const DagPath &path);
+};
+
+Matrix parentOf(const DagPath &path)
+{
+    return worldMatrix(path.parent());
+}
+
+const DerivedMatrix kDerivedMatrices[] = {
+    {"worldMatrix", worldMatrix},
+    {"worldInverseMatrix", [](const DagPath &path) { return inverse(worldMatrix(path)); }},
+    {"parentMatrix", parentOf},
+    {"parentInverseMatrix", [](const DagPath &path) { return inverse(parentOf(path)); }},
+    {"matrix", [](const DagPath &path) { return localMatrix(*path.node()); }},
+    {"xformMatrix", [](const DagPath &path) { return localMatrix(*path.node()); }},
+    {"inverseMatrix", [](const DagPath &path) { return inverse(localMatrix(*path.node())); }},
+};
+
+Value derivedValue(const Plug &plug)
+{
+    if (!plug.node->isDag())
+        return Value();
+    const std::vector<DagPath> paths = DagPath::all(plug.node);
+    const std::size_t instance = std::size_t(std::max(0, plug.indices[0]));
+    for (const DerivedMatrix &row : kDerivedMatrices) {
+        if (plug.attribute->longName == row.attribute && instance < paths.size())
+            return row.compute(paths[instance]);
+    }
+    return Value();
+}
+
+// Chains of connections may be circular; Maya warns about that, and a value is still wanted.
+constexpr int kMaxConnectionChain = 200;
+
+Value evaluate(const Plug &plug, int chain)
+{
+    if (chain < kMaxConnectionChain) {
+        const Plug source = sourceFor(plug);
+        if (!source.isNull()) {
+            const Value value = evaluate(source, chain + 1);
+            if (!std::holds_alternative<std::monostate>(value))
+                return value;
+        }
+    }
+    if (plug.attribute->isComputed)
+        return derivedValue(plug);
+    return plug.node->storedValue(plug);
+}
+
+} // namespace
+
+void Scene::connect(const Plug &source, const Plug &destination, bool force, bool lock)
+{
+    if (const Connection *existing = destination.node->source(destination)) {
+        if (isEnd(*existing, source))
+            return;
+        if (!force)
+            throw Error("'" + destination.name() + "' already has an incoming connection from '" +
+                        existing->plug().name() + "'.");
+        disconnect(existing->plug(), destination);
+    }
+    if (!force && isLockedHereOrAbove(destination))
+        throw Error("The destination attribute '" + destination.name() +
+                    "' cannot be connected: it is locked.");
+    addElementsOnTheWay(*this, source);
+    addElementsOnTheWay(*this, destination);
+    perform(
+        [source, destination, lock] {
+            destination.node->sources_[PlugKey(destination)] = endOf(source, lock);
+            source.node->destinations_[PlugKey(source)].push_back(endOf(destination, lock));
+        },
+        [source, destination] { cut(source, destination); });
+}
+
+void Scene::cut(const Plug &source, const Plug &destination)
+{
+    destination.node->sources_.erase(PlugKey(destination));
+    const auto ends = source.node->destinations_.find(PlugKey(source));
+    if (ends == source.node->destinations_.end())
+        return;
+    auto &list = ends->second;
+    list.erase(std::remove_if(list.begin(), list.end(),
+                              [&](const Connection &end) { return isEnd(end, destination); }),
+               list.end());
+    if (list.empty())
+        source.node->destinations_.erase(ends);
+}
+
+void Scene::disconnect(const Plug &source, const Plug &destination)
+{
+    const Connection *existing = destination.node->source(destination);
+    if (!existing || !isEnd(*existing, source))
+        throw Error("There is no connection from '" + source.name() + "' to '" +
+                    destination.name() + "' to disconnect.");
+    const bool isLocked = existing->isLocked;
+    const std::vector<Connection> before = source.node->destinations(source);
+    perform([source, destination] { cut(source, destination); },
+            [source, destination, isLocked, before] {
+                destination.node->sources_[PlugKey(destination)] = endOf(source, isLocked);
+                source.node->destinations_[PlugKey(source)] = before;
+            });
+}
+
+int Scene::nextAvailable(const Plug &wholeArray) const
+{
+    int index = 0;
+    while (wholeArray.node->source(wholeArray.element(index)) ||
+           wholeArray.node->hasElement(wholeArray.element(index)))
+        ++index;
+    return index;
+}
+
+bool isSettable(const Plug &plug)
+{
+    if (isLockedHereOrAbove(plug) || isConnectedHereOrAbove(plug))
+        return false;
+    return std::all_of(plug.attribute->children.begin(), plug.attribute->children.end(),
+                       [&plug](const AttributePtr &child) {
+                           const Plug below = plug.child(child);
+                           return !below.node->state(below).isLocked && !below.node->source(below);
+                       });
+}
+
+Value evaluate(const Plug &plug)
+{
+    return evaluate(plug, 0);
+}
+
+double evaluateNumber(const Plug &plug)
+{
+    return toNumber(evaluate(plug), plug.attribute->defaultNumber);
+}
+
+} // namespace host

@@ -1,0 +1,274 @@
+// SPDX-License-Identifier: Apache-2.0
+// Attributes of nodes and their values.
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include "scene/plugAccess.h"
+#include "scene/scene.h"
+
+namespace host
+{
+
+// What Scene needs of a node's insides to put data back. A friend of both.
+struct SceneEdit {
+    // Everything stored below one top-level attribute. Cheap for weights and packed numbers, which
+    // copies share until one of them is written.
+    struct Snapshot {
+        std::optional<Datum> datum;
+        std::unique_ptr<skin::WeightStore> weights;
+    };
+    using SnapshotPtr = std::shared_ptr<Snapshot>;
+
+    static SnapshotPtr take(const Node &node, const Attribute *top)
+    {
+        auto snapshot = std::make_shared<Snapshot>();
+        const auto found = node.data_.find(top);
+        if (found != node.data_.end())
+            snapshot->datum = found->second;
+        if (node.weights_ && top->longName == "weightList")
+            snapshot->weights = std::make_unique<skin::WeightStore>(*node.weights_);
+        return snapshot;
+    }
+
+    static void restore(Node &node, const Attribute *top, const Snapshot &snapshot)
+    {
+        if (snapshot.datum)
+            node.data_[top] = *snapshot.datum;
+        else
+            node.data_.erase(top);
+        if (snapshot.weights)
+            *node.weights_ = *snapshot.weights;
+    }
+
+    // Runs `change` on the data below `attribute` and records how to go back and forth.
+    template <typename Function>
+    static void run(Scene &scene, const NodePtr &node, const AttributePtr &attribute,
+                    Function change)
+    {
+        if (!scene.isRecording()) {
+            change();
+            scene.isModified_ = true;
+            return;
+        }
+        const Attribute *top = AttributeChain(*attribute)[0];
+        const SnapshotPtr before = take(*node, top);
+        change();
+        const SnapshotPtr after = take(*node, top);
+        scene.isModified_ = true;
+        // The attribute is held too: the node may lose it while the change sits in the queue.
+        scene.recorder_->recordChange(
+            {[node, attribute, top, before] { restore(*node, top, *before); },
+             [node, attribute, top, after] { restore(*node, top, *after); }});
+    }
+
+    // The block behind a packed array, ready to be written.
+    static PackedNumbers &block(Node &node, const Plug &wholeArray)
+    {
+        Datum &datum = *node.mutableDatum(wholeArray, true);
+        if (!datum.packed)
+            datum.packed = std::make_shared<PackedNumbers>(wholeArray.attribute->tupleSize());
+        else if (datum.packed.use_count() > 1)
+            datum.packed = std::make_shared<PackedNumbers>(*datum.packed);
+        return *datum.packed;
+    }
+
+    static void addOwn(Node &node, const AttributePtr &attribute)
+    {
+        node.ownAttributes_.push_back(attribute);
+        enterOwnNames(node, attribute);
+    }
+
+    static void removeOwn(Node &node, const AttributePtr &attribute)
+    {
+        auto &own = node.ownAttributes_;
+        own.erase(std::remove(own.begin(), own.end(), attribute), own.end());
+        node.ownByName_.clear();
+        for (const AttributePtr &other : own)
+            enterOwnNames(node, other);
+    }
+
+    static void number(Node &node, const AttributePtr &attribute)
+    {
+        attribute->order = node.nextAttributeOrder_++;
+        for (const AttributePtr &child : attribute->children)
+            number(node, child);
+    }
+
+private:
+    static void enterOwnNames(Node &node, const AttributePtr &attribute)
+    {
+        node.ownByName_.emplace(attribute->longName, attribute);
+        node.ownByName_.emplace(attribute->shortName, attribute);
+        if (attribute->isLearned())
+            return; // children of learned attributes are known by their path only
+        for (const AttributePtr &child : attribute->children)
+            enterOwnNames(node, child);
+    }
+};
+
+namespace
+{
+
+double roundedToKind(double number, AttributeKind kind)
+{
+    switch (kind) {
+    case AttributeKind::boolean:
+        return number != 0.0 ? 1.0 : 0.0;
+    case AttributeKind::integer:
+    case AttributeKind::enumeration:
+        return std::trunc(number);
+    case AttributeKind::floating:
+        return double(float(number));
+    default:
+        return number;
+    }
+}
+
+void refuseTakenNames(const Node &node, const Attribute &attribute)
+{
+    for (const std::string &name : {attribute.longName, attribute.shortName}) {
+        if (node.findAttribute(name))
+            throw Error("Found an attribute named '" + name + "' on '" + node.uniqueName() +
+                        "' already.");
+    }
+    for (const AttributePtr &child : attribute.children)
+        refuseTakenNames(node, *child);
+}
+
+} // namespace
+
+void Scene::addAttribute(const NodePtr &node, const AttributePtr &attribute)
+{
+    if (node->isLocked())
+        throw Error("Can not add attributes to the locked node '" + node->uniqueName() + "'.");
+    refuseTakenNames(*node, *attribute);
+    SceneEdit::number(*node, attribute);
+    perform([node, attribute] { SceneEdit::addOwn(*node, attribute); },
+            [node, attribute] { SceneEdit::removeOwn(*node, attribute); });
+}
+
+void Scene::removeAttribute(const NodePtr &node, const AttributePtr &attribute)
+{
+    const std::vector<AttributePtr> &own = node->ownAttributes();
+    if (std::find(own.begin(), own.end(), attribute) == own.end())
+        throw Error("'" + attribute->longName + "' is no dynamic attribute of '" +
+                    node->uniqueName() + "'.");
+    SceneEdit::run(*this, node, attribute, [&] { node->data_.erase(attribute.get()); });
+    perform([node, attribute] { SceneEdit::removeOwn(*node, attribute); },
+            [node, attribute] { SceneEdit::addOwn(*node, attribute); });
+}
+
+void Scene::setValue(const Plug &plug, Value value)
+{
+    if (double *number = std::get_if<double>(&value))
+        *number = roundedToKind(*number, plug.attribute->kind);
+    SceneEdit::run(*this, plug.node, plug.attribute, [&] {
+        Node &node = *plug.node;
+        if (isWeight(plug)) {
+            node.weights_->setWeight(std::size_t(plug.indices[0]), std::uint32_t(plug.indices[1]),
+                                     toNumber(value));
+            return;
+        }
+        const PackedPlace place = packedPlace(plug);
+        if (place.array.attribute) {
+            const double fill = plug.attribute->defaultNumber;
+            double *element = SceneEdit::block(node, place.array).findOrAdd(place.index, fill);
+            element[place.component] = toNumber(value);
+        } else {
+            node.mutableDatum(plug, true)->value = std::move(value);
+        }
+    });
+}
+
+void Scene::setNumbers(const Plug &wholeArray, int first, const std::vector<double> &numbers)
+{
+    const Attribute &attribute = *wholeArray.attribute;
+    const AttributeKind kind =
+        attribute.isCompound() ? attribute.children.front()->kind : attribute.kind;
+    std::vector<double> rounded = numbers;
+    if (kind != AttributeKind::real) {
+        for (double &number : rounded)
+            number = roundedToKind(number, kind);
+    }
+    SceneEdit::run(*this, wholeArray.node, wholeArray.attribute, [&] {
+        SceneEdit::block(*wholeArray.node, wholeArray)
+            .setRun(first, rounded.data(), rounded.size() / attribute.tupleSize());
+    });
+}
+
+void Scene::setOpaqueRange(const Plug &wholeArray, int first, int last, OpaqueValue value)
+{
+    SceneEdit::run(*this, wholeArray.node, wholeArray.attribute, [&] {
+        Datum &element = *wholeArray.node->mutableDatum(wholeArray.element(first), true);
+        element.value = std::move(value);
+        element.rangeLast = last;
+    });
+}
+
+void Scene::addElement(const Plug &element)
+{
+    if (element.node->hasElement(element))
+        return;
+    SceneEdit::run(*this, element.node, element.attribute, [&] {
+        Node &node = *element.node;
+        if (isWeightList(element.array())) {
+            node.weights_->addRow(std::size_t(element.ownIndex()));
+        } else if (element.attribute->isPackedArray()) {
+            const Attribute &attribute = *element.attribute;
+            const std::vector<AttributePtr> &children = attribute.children;
+            double *numbers = SceneEdit::block(node, element.array()).findOrAdd(element.ownIndex());
+            for (unsigned i = 0; i < attribute.tupleSize(); ++i)
+                numbers[i] =
+                    children.empty() ? attribute.defaultNumber : children[i]->defaultNumber;
+        } else if (!isWeightRow(element.array())) {
+            node.mutableDatum(element, true);
+        }
+    });
+}
+
+void Scene::removeElement(const Plug &element)
+{
+    SceneEdit::run(*this, element.node, element.attribute, [&] {
+        Node &node = *element.node;
+        const Plug array = element.array();
+        if (isWeightList(array))
+            node.weights_->removeRow(std::size_t(element.ownIndex()));
+        else if (isWeightRow(array))
+            node.weights_->setWeight(std::size_t(array.indices[0]),
+                                     std::uint32_t(element.ownIndex()), 0.0);
+        else if (element.attribute->isPackedArray())
+            SceneEdit::block(node, array).erase(element.ownIndex());
+        else if (Datum *datum = node.mutableDatum(array, false))
+            datum->elements.erase(element.ownIndex());
+    });
+}
+
+void Scene::setState(const Plug &plug, const PlugState &state)
+{
+    const auto set = [node = plug.node, key = PlugKey(plug),
+                      attribute = plug.attribute](const PlugState &value) {
+        if (value.isDefault())
+            node->states_.erase(key);
+        else
+            node->states_[key] = value;
+    };
+    perform([set, state] { set(state); }, [set, before = plug.node->state(plug)] { set(before); });
+}
+
+void Scene::setWeightRows(const NodePtr &skinCluster, const std::vector<std::size_t> &vertices,
+                          const std::vector<std::vector<skin::WeightStore::Entry>> &rows)
+{
+    SceneEdit::run(*this, skinCluster, skinCluster->findAttribute("weightList"), [&] {
+        for (std::size_t i = 0; i < vertices.size(); ++i)
+            skinCluster->weights_->setRow(vertices[i], rows[i]);
+    });
+}
+
+skin::WeightStore &Scene::editWeights(const NodePtr &skinCluster)
+{
+    isModified_ = true;
+    return *skinCluster->weights_;
+}
+
+} // namespace host

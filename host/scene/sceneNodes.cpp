@@ -1,0 +1,340 @@
+// SPDX-License-Identifier: Apache-2.0
+// Creating, deleting, naming and placing nodes.
+#include <algorithm>
+#include <cctype>
+
+#include "scene/scene.h"
+
+namespace host
+{
+
+namespace
+{
+
+// "joint12" -> "joint" and 12; no digits -> 0.
+std::string_view stemOf(std::string_view name)
+{
+    while (!name.empty() && std::isdigit(static_cast<unsigned char>(name.back())))
+        name.remove_suffix(1);
+    return name;
+}
+
+bool isLegalName(std::string_view name)
+{
+    const std::string_view local = name.substr(name.rfind(':') + 1);
+    if (local.empty() || std::isdigit(static_cast<unsigned char>(local.front())))
+        return false;
+    return std::all_of(name.begin(), name.end(), [](unsigned char c) {
+        return std::isalnum(c) || c == '_' || c == ':' || c >= 0x80; // UTF-8 letters
+    });
+}
+
+bool isAbove(const Node &node, const Node &other)
+{
+    if (&node == &other)
+        return true;
+    return std::any_of(other.parents().begin(), other.parents().end(),
+                       [&node](const Node *parent) { return isAbove(node, *parent); });
+}
+
+// A hierarchy deeper than this is refused: no rig comes near, and walks up and down may recurse.
+constexpr unsigned kMaxDagDepth = 2000;
+
+unsigned depthOf(const Node *node)
+{
+    unsigned depth = 0;
+    for (; node && depth <= kMaxDagDepth; ++depth)
+        node = node->parents().empty() ? nullptr : node->parents().front();
+    return depth;
+}
+
+template <typename List, typename Item>
+void insertAt(List &list, std::size_t place, Item &&item)
+{
+    list.insert(list.begin() + long(std::min(place, list.size())), std::forward<Item>(item));
+}
+
+template <typename List, typename Item>
+std::size_t placeOf(const List &list, const Item &item)
+{
+    return std::size_t(std::find(list.begin(), list.end(), item) - list.begin());
+}
+
+} // namespace
+
+void Scene::enter(const NodePtr &node)
+{
+    node->scene_ = this;
+    nodes_[node->serial_] = node;
+    std::vector<NodePtr> &named = byName_[node->name_];
+    const auto place = std::find_if(named.begin(), named.end(), [&node](const NodePtr &other) {
+        return other->serial_ > node->serial_;
+    });
+    named.insert(place, node);
+}
+
+void Scene::leave(const NodePtr &node)
+{
+    node->scene_ = nullptr;
+    nodes_.erase(node->serial_);
+    std::vector<NodePtr> &named = byName_[node->name_];
+    named.erase(std::find(named.begin(), named.end(), node));
+    if (named.empty())
+        byName_.erase(node->name_);
+    nextNumber_.clear(); // numbers below the remembered ones may be free again
+}
+
+std::string Scene::freeName(std::string_view wanted, bool isDag, const Node *parent) const
+{
+    const auto isTaken = [this, isDag, parent](const std::string &name) {
+        const auto found = byName_.find(name);
+        if (found == byName_.end())
+            return false;
+        return std::any_of(found->second.begin(), found->second.end(), [&](const NodePtr &other) {
+            return !isDag || !other->isDag() ||
+                   placeOf(other->parents_, parent) < other->parents_.size();
+        });
+    };
+    const bool wantsNumber = !wanted.empty() && wanted.back() == '#';
+    if (wantsNumber)
+        wanted.remove_suffix(1);
+    const std::string name(wanted);
+    if (!wantsNumber && !isTaken(name))
+        return name;
+    const std::string stem(stemOf(wanted));
+    unsigned &number = nextNumber_[stem];
+    number = std::max(number, 1u);
+    // The remembered number skips names that are taken anywhere, so it serves every parent.
+    while (byName_.count(stem + std::to_string(number)) != 0)
+        ++number;
+    return stem + std::to_string(number);
+}
+
+NodePtr Scene::addNode(const NodeType &type, std::string name, const NodePtr &parent)
+{
+    auto node = std::make_shared<Node>(*this, type, std::move(name));
+    node->serial_ = nextSerial_++;
+    const NodePtr above = node->isDag() ? (parent ? parent : world_) : nullptr;
+    const auto redo = [this, node, above] {
+        enter(node);
+        if (above) {
+            node->parents_.push_back(above.get());
+            above->children_.push_back(node);
+        }
+    };
+    const auto undo = [this, node, above] {
+        leave(node);
+        if (above) {
+            node->parents_.clear();
+            above->children_.erase(above->children_.begin() +
+                                   long(placeOf(above->children_, node)));
+        }
+    };
+    perform(redo, undo);
+    return node;
+}
+
+NodePtr Scene::createNode(std::string_view type, std::string_view name, const NodePtr &parent,
+                          UnknownType unknown)
+{
+    const NodeType *known = types_.find(type);
+    if (!known || (!known->isKnown && unknown == UnknownType::refuse)) {
+        if (unknown == UnknownType::refuse)
+            throw Error("Unrecognized node type '" + std::string(type) + "'.");
+        known = &types_.findOrLearn(type, parent ? "dagNode" : "node");
+    }
+    const bool isDag = known->isA("dagNode");
+    if (parent && !isDag)
+        throw Error("A " + std::string(type) + " node can not have a parent.");
+    if (parent && parent->isA("shape"))
+        throw Error("A shape can not be a parent: " + parent->uniqueName());
+    if (depthOf(parent.get()) > kMaxDagDepth)
+        throw Error("The hierarchy is too deep at " + parent->name());
+
+    const std::string wanted = name.empty() ? std::string(type) + '#' : std::string(name);
+    if (!isLegalName(wanted.back() == '#' ? std::string_view(wanted).substr(0, wanted.size() - 1)
+                                          : std::string_view(wanted)))
+        throw Error("New name has no legal characters.");
+    if (isDag && !parent && known->isA("shape")) {
+        // Maya puts a new shape below a transform of its own: mesh "a" below "a1"-like names are
+        // the caller's wish, so only the transform's name is derived.
+        const NodePtr transform = createNode("transform", "", nullptr);
+        return addNode(*known, freeName(wanted, true, transform.get()), transform);
+    }
+    const Node *above = isDag ? (parent ? parent.get() : world_.get()) : nullptr;
+    return addNode(*known, freeName(wanted, isDag, above), parent);
+}
+
+NodePtr Scene::createSharedNode(std::string_view type, std::string_view name, const NodePtr &parent)
+{
+    for (const NodePtr &existing : nodesNamed(name)) {
+        const bool isThere =
+            !parent || placeOf(existing->parents_, parent.get()) < existing->parents_.size();
+        if (existing->type().name == type && isThere)
+            return existing;
+    }
+    const NodePtr node = createNode(type, name, parent, UnknownType::learn);
+    node->isShared_ = true;
+    return node;
+}
+
+NodePtr Scene::defaultNode(std::string_view name)
+{
+    if (const NodePtr existing = findNode(name))
+        return existing;
+    const std::string_view local = name.substr(name.find_first_not_of(':'));
+    const NodePtr node = addNode(types_.findOrLearn(local, "node"), std::string(local), nullptr);
+    node->isDefault_ = true;
+    return node;
+}
+
+void Scene::deleteNode(const NodePtr &node)
+{
+    if (node->isDefault() || node->isShared())
+        throw Error("Can not delete a default node: " + node->uniqueName());
+    if (node->isLocked())
+        throw Error("Can not delete a locked node: " + node->uniqueName());
+    const std::vector<NodePtr> children = node->children_;
+    for (const NodePtr &child : children) {
+        if (child->parents_.size() > 1)
+            removeInstance(child, node);
+        else
+            deleteNode(child);
+    }
+    while (!node->sources_.empty()) {
+        const auto &entry = *node->sources_.begin();
+        disconnect(entry.second.plug(), node->plugOf(entry.first));
+    }
+    while (!node->destinations_.empty()) {
+        const auto &entry = *node->destinations_.begin();
+        disconnect(node->plugOf(entry.first), entry.second.front().plug());
+    }
+    while (node->parents_.size() > 1)
+        removeInstance(node, node->parents_.back()->shared_from_this());
+
+    const NodePtr above =
+        node->parents_.empty() ? nullptr : node->parents_.front()->shared_from_this();
+    const std::size_t place = above ? placeOf(above->children_, node) : 0;
+    perform(
+        [this, node, above, place] {
+            leave(node);
+            if (above) {
+                node->parents_.clear();
+                above->children_.erase(above->children_.begin() + long(place));
+            }
+        },
+        [this, node, above, place] {
+            enter(node);
+            if (above) {
+                node->parents_.push_back(above.get());
+                insertAt(above->children_, place, node);
+            }
+        });
+}
+
+std::string Scene::rename(const NodePtr &node, std::string_view name)
+{
+    if (node->isLocked() || node->isDefault())
+        throw Error("Can not rename a locked or default node: " + node->uniqueName());
+    std::string wanted(name);
+    while (!wanted.empty() && wanted.back() == '#')
+        wanted.pop_back();
+    if (!isLegalName(wanted))
+        throw Error("New name has no legal characters.");
+    const std::string before = node->name_;
+    if (before == name)
+        return before;
+    const Node *above = node->parents_.empty() ? nullptr : node->parents_.front();
+    const std::string after = freeName(name, node->isDag(), above);
+    const auto change = [this, node](const std::string &newName) {
+        leave(node);
+        node->name_ = newName;
+        enter(node);
+    };
+    perform([change, after] { change(after); }, [change, before] { change(before); });
+
+    // A shape named after its transform follows it, as in Maya.
+    const std::vector<NodePtr> children = node->children_;
+    for (const NodePtr &child : children) {
+        const std::string prefix = before + "Shape";
+        if (child->isA("shape") && child->name_.compare(0, prefix.size(), prefix) == 0 &&
+            !child->isLocked())
+            rename(child, after + "Shape" + child->name_.substr(prefix.size()));
+    }
+    return after;
+}
+
+void Scene::setUuid(const NodePtr &node, std::string_view uuid)
+{
+    perform([node, after = std::string(uuid)] { node->uuid_ = after; },
+            [node, before = node->uuid_] { node->uuid_ = before; });
+}
+
+void Scene::setNodeLock(const NodePtr &node, bool locked, bool lockUnpublished)
+{
+    const auto set = [node](bool isLocked, bool isLockUnpublished) {
+        node->isLocked_ = isLocked;
+        node->isLockUnpublished_ = isLockUnpublished;
+    };
+    perform([=] { set(locked, lockUnpublished); },
+            [set, a = node->isLocked_, b = node->isLockUnpublished_] { set(a, b); });
+}
+
+void Scene::keepStatement(const NodePtr &node, std::string statement)
+{
+    perform([node, statement] { node->keptStatements_.push_back(statement); },
+            [node] { node->keptStatements_.pop_back(); });
+}
+
+void Scene::reparent(const NodePtr &node, const NodePtr &oldParent, const NodePtr &newParent)
+{
+    const NodePtr from = oldParent ? oldParent : world_;
+    const NodePtr to = newParent ? newParent : world_;
+    if (from == to)
+        return;
+    addInstance(node, to);
+    removeInstance(node, from);
+}
+
+void Scene::addInstance(const NodePtr &node, const NodePtr &parent)
+{
+    const NodePtr to = parent ? parent : world_;
+    if (isAbove(*node, *to))
+        throw Error("Can not parent '" + node->uniqueName() + "' below itself.");
+    if (to->isA("shape"))
+        throw Error("A shape can not be a parent: " + to->uniqueName());
+    if (placeOf(node->parents_, to.get()) < node->parents_.size())
+        throw Error("'" + node->uniqueName() + "' is already a child of '" + to->name() + "'.");
+    const std::string name = freeName(node->name_, true, to.get());
+    if (name != node->name_)
+        rename(node, name);
+    perform(
+        [node, to] {
+            node->parents_.push_back(to.get());
+            to->children_.push_back(node);
+        },
+        [node, to] {
+            node->parents_.pop_back();
+            to->children_.pop_back();
+        });
+}
+
+void Scene::removeInstance(const NodePtr &node, const NodePtr &parent)
+{
+    const NodePtr from = parent ? parent : world_;
+    const std::size_t place = placeOf(from->children_, node);
+    const std::size_t instance = placeOf(node->parents_, from.get());
+    if (place == from->children_.size() || node->parents_.size() < 2)
+        throw Error("'" + node->uniqueName() + "' has no such instance.");
+    perform(
+        [node, from, place, instance] {
+            node->parents_.erase(node->parents_.begin() + long(instance));
+            from->children_.erase(from->children_.begin() + long(place));
+        },
+        [node, from, place, instance] {
+            insertAt(node->parents_, instance, from.get());
+            insertAt(from->children_, place, node);
+        });
+}
+
+} // namespace host

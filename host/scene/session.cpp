@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "scene/session.h"
+
+namespace host
+{
+
+Session::Session(Mode mode) : mode_(mode), scene_(std::make_unique<Scene>())
+{
+    scene_->setRecorder(&undo_);
+}
+
+Session::~Session()
+{
+    // Steps and lists hold nodes: they go before the scene.
+    undo_.flush();
+    selection_.clear();
+    ordered_.clear();
+    hilited_.clear();
+}
+
+void Session::replaceScene(std::unique_ptr<Scene> scene, std::string fileName, Replacement kind)
+{
+    const bool hadSelection = !selection_.isEmpty();
+    undo_.flush();
+    selection_.clear();
+    ordered_.clear();
+    hilited_.clear();
+    scene_ = std::move(scene);
+    scene_->setRecorder(&undo_);
+    scene_->setModified(false);
+    fileName_ = std::move(fileName);
+    if (hadSelection)
+        events_.raise("SelectionChanged");
+    events_.raise("deleteAll");
+    if (kind == Replacement::newScene) {
+        events_.raise("NewSceneOpened");
+    } else {
+        events_.raise("PostSceneRead");
+        events_.raise("SceneOpened");
+    }
+}
+
+const SelectionList &Session::orderedSelection() const
+{
+    return tracksOrder_ ? ordered_ : selection_;
+}
+
+namespace
+{
+
+void adjust(SelectionList &list, const std::vector<SelectionItem> &items,
+            Session::Adjustment adjustment)
+{
+    switch (adjustment) {
+    case Session::Adjustment::replace:
+        list.clear();
+        [[fallthrough]];
+    case Session::Adjustment::add:
+        for (const SelectionItem &item : items)
+            list.merge(item);
+        break;
+    case Session::Adjustment::remove:
+        for (const SelectionItem &item : items)
+            list.remove(item);
+        break;
+    case Session::Adjustment::toggle:
+        for (const SelectionItem &item : items)
+            list.toggle(item);
+        break;
+    case Session::Adjustment::addToHead: {
+        SelectionList head;
+        for (const SelectionItem &item : items)
+            head.merge(item);
+        for (const SelectionItem &item : list.items())
+            head.merge(item);
+        list = head;
+        break;
+    }
+    }
+}
+
+// Picks stay apart in the ordered list: what is added comes as an item of its own, without the
+// elements that are selected already.
+void adjustOrdered(SelectionList &ordered, const std::vector<SelectionItem> &items,
+                   Session::Adjustment adjustment)
+{
+    if (adjustment != Session::Adjustment::add && adjustment != Session::Adjustment::replace) {
+        adjust(ordered, items, adjustment);
+        return;
+    }
+    if (adjustment == Session::Adjustment::replace)
+        ordered.clear();
+    for (SelectionItem item : items) {
+        for (const SelectionItem &existing : ordered.items()) {
+            if (item.component && existing.component && existing.sameObject(item) &&
+                existing.component->kind == item.component->kind)
+                item.component->remove(*existing.component);
+        }
+        const bool isNew = item.component ? !item.component->elements.empty() : !ordered.has(item);
+        if (isNew)
+            ordered.append(item);
+    }
+}
+
+} // namespace
+
+void Session::adjustSelection(const std::vector<SelectionItem> &items, Adjustment adjustment)
+{
+    const SelectionList before = selection_;
+    const SelectionList orderedBefore = ordered_;
+    adjust(selection_, items, adjustment);
+    adjustOrdered(ordered_, items, adjustment);
+    for (const SelectionItem &item : selection_.items()) {
+        if (item.component) {
+            SelectionItem object = item;
+            object.component.reset();
+            hilited_.merge(object);
+        }
+    }
+    undo_.record({[this, before, orderedBefore] {
+                      restoreSelection(before, orderedBefore);
+                      return true;
+                  },
+                  [this, after = selection_, orderedAfter = ordered_] {
+                      restoreSelection(after, orderedAfter);
+                      return true;
+                  }});
+    if (!before.isEmpty() || !selection_.isEmpty())
+        events_.raise("SelectionChanged");
+}
+
+void Session::restoreSelection(const SelectionList &list, const SelectionList &ordered)
+{
+    selection_ = list;
+    ordered_ = ordered;
+    events_.raise("SelectionChanged");
+}
+
+void Session::setHilited(SelectionList list)
+{
+    const auto set = [this](const SelectionList &value) {
+        hilited_ = value;
+        return true;
+    };
+    undo_.record(
+        {[set, before = hilited_] { return set(before); }, [set, list] { return set(list); }});
+    hilited_ = std::move(list);
+}
+
+void Session::dropDeletedFromLists()
+{
+    const SelectionList before = selection_;
+    const SelectionList orderedBefore = ordered_;
+    hilited_.dropDeleted();
+    ordered_.dropDeleted();
+    if (!selection_.dropDeleted())
+        return;
+    undo_.record({[this, before, orderedBefore] {
+                      restoreSelection(before, orderedBefore);
+                      return true;
+                  },
+                  [this, after = selection_, orderedAfter = ordered_] {
+                      restoreSelection(after, orderedAfter);
+                      return true;
+                  }});
+    events_.raise("SelectionChanged");
+}
+
+namespace
+{
+
+constexpr char kDamagedUndo[] =
+    "Undo was not successful.  Damaged undo/redo information has been flushed.";
+
+} // namespace
+
+bool Session::undoOnce()
+{
+    const std::string name = undo_.undoName();
+    switch (undo_.undo()) {
+    case UndoQueue::Outcome::nothingLeft:
+        output_.warning("There are no more commands to undo.");
+        return true;
+    case UndoQueue::Outcome::failed:
+        output_.error(kDamagedUndo);
+        return false;
+    case UndoQueue::Outcome::done:
+        break;
+    }
+    output_.send(MessageKind::history, "// Undo: " + name);
+    events_.raise("Undo");
+    return true;
+}
+
+bool Session::redoOnce()
+{
+    const std::string name = undo_.redoName();
+    switch (undo_.redo()) {
+    case UndoQueue::Outcome::nothingLeft:
+        output_.warning("There are no more commands to redo.");
+        return true;
+    case UndoQueue::Outcome::failed:
+        output_.error(kDamagedUndo);
+        return false;
+    case UndoQueue::Outcome::done:
+        break;
+    }
+    output_.send(MessageKind::history, "// Redo: " + name);
+    events_.raise("Redo");
+    return true;
+}
+
+} // namespace host

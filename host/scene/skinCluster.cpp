@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "scene/skinCluster.h"
+
+#include <algorithm>
+
+#include "scene/scene.h"
+#include "scene/transform.h"
+#include "skin/distribution.h"
+
+namespace host
+{
+
+namespace
+{
+
+using skin::WeightStore;
+
+skin::Vec3 bindPosition(const Node &cluster, const Influence &influence)
+{
+    const Plug bindPre = cluster.plug("bindPreMatrix").element(int(influence.logicalIndex));
+    const Value stored = cluster.storedValue(bindPre);
+    if (const Matrix *matrix = std::get_if<Matrix>(&stored))
+        return translationOf(inverse(*matrix));
+    return translationOf(worldMatrix(influence.path));
+}
+
+// The bind pose as the distance law wants it: each influence with the bones to its child joints.
+std::vector<skin::BindInfluence> bindInfluences(const SkinCluster &cluster)
+{
+    std::vector<skin::BindInfluence> result;
+    const Node &node = *cluster.node();
+    const Plug dropoff = node.plug("dropoff");
+    for (const Influence &influence : cluster.influences()) {
+        skin::BindInfluence bone;
+        bone.position = bindPosition(node, influence);
+        bone.dropoff = toNumber(node.storedValue(dropoff.element(int(influence.logicalIndex))));
+        for (const NodePtr &child : influence.path.node()->children()) {
+            if (!child->isA("joint") || !influence.path.node()->isA("joint"))
+                continue;
+            const int index = cluster.indexOf(*child);
+            bone.childJoints.push_back(
+                index >= 0 ? bindPosition(node, cluster.influences()[std::size_t(index)])
+                           : translationOf(worldMatrix(influence.path.child(child))));
+        }
+        result.push_back(std::move(bone));
+    }
+    return result;
+}
+
+void checkWrite(const SkinCluster &cluster, const std::vector<int> &vertices,
+                const std::vector<int> &indices, const std::vector<double> &values)
+{
+    const int count = int(cluster.influences().size());
+    const bool indicesFit =
+        std::all_of(indices.begin(), indices.end(), [count](int i) { return i >= 0 && i < count; });
+    const std::size_t vertexCount = cluster.vertexCount();
+    const bool verticesFit = std::all_of(vertices.begin(), vertices.end(), [vertexCount](int v) {
+        return v >= 0 && std::size_t(v) < vertexCount;
+    });
+    const bool lengthFits =
+        values.size() == indices.size() || values.size() == indices.size() * vertices.size();
+    if (!indicesFit || !verticesFit || !lengthFits)
+        throw Error("Weights do not fit the skin cluster " + cluster.node()->uniqueName());
+    if (!std::all_of(values.begin(), values.end(), skin::isWritable))
+        throw Error("A weight is not a number.");
+}
+
+} // namespace
+
+// What creating weights "from thin air" needs, gathered at the first vertex that asks for it.
+struct SkinCluster::BindPose {
+    std::vector<skin::BindInfluence> influences;
+    std::vector<skin::Vec3> points; // world space
+    skin::Adjacency adjacency;
+    bool usesNeighbours = false;
+    std::vector<std::uint32_t> logicalOfPhysical;
+};
+
+SkinCluster::SkinCluster(NodePtr node) : node_(std::move(node))
+{
+    const Plug matrix = node_->plug("matrix");
+    for (const int index : node_->elementIndices(matrix)) {
+        const Connection *source = node_->source(matrix.element(index));
+        if (!source || !source->node->isDag())
+            continue;
+        if (columnOfLogical_.size() <= std::size_t(index))
+            columnOfLogical_.resize(std::size_t(index) + 1, -1);
+        columnOfLogical_[std::size_t(index)] = std::int32_t(influences_.size());
+        influences_.push_back({unsigned(index), DagPath::first(source->node->shared_from_this())});
+    }
+}
+
+int SkinCluster::indexOf(const Node &influence) const
+{
+    for (std::size_t i = 0; i < influences_.size(); ++i) {
+        if (influences_[i].path.node().get() == &influence)
+            return int(i);
+    }
+    return -1;
+}
+
+std::vector<bool> SkinCluster::locks() const
+{
+    const Plug lockWeights = node_->plug("lockWeights");
+    std::vector<bool> locks;
+    for (const Influence &influence : influences_)
+        locks.push_back(evaluateNumber(lockWeights.element(int(influence.logicalIndex))) != 0.0);
+    return locks;
+}
+
+skin::WriteSettings SkinCluster::settings(bool normalize) const
+{
+    skin::WriteSettings settings;
+    settings.mode = skin::NormalizeMode(int(evaluateNumber(node_->plug("normalizeWeights"))));
+    settings.normalize = normalize;
+    settings.maintainMaxInfluences = evaluateNumber(node_->plug("maintainMaxInfluences")) != 0.0;
+    settings.maxInfluences = unsigned(evaluateNumber(node_->plug("maxInfluences")));
+    return settings;
+}
+
+NodePtr SkinCluster::shape() const
+{
+    return deformedShape(*node_);
+}
+
+std::size_t SkinCluster::vertexCount() const
+{
+    const NodePtr mesh = shape();
+    const std::size_t rows = node_->weights()->vertexCount();
+    return mesh && mesh->isA("mesh") ? std::max<std::size_t>(rows, host::vertexCount(*mesh)) : rows;
+}
+
+void SkinCluster::read(const std::vector<int> &vertices, double *out) const
+{
+    const WeightStore &weights = *node_->weights();
+    const bool isWholeRange = !vertices.empty() &&
+                              vertices.back() - vertices.front() + 1 == int(vertices.size()) &&
+                              std::is_sorted(vertices.begin(), vertices.end());
+    if (isWholeRange) {
+        weights.readDense(std::size_t(vertices.front()), std::size_t(vertices.back()) + 1,
+                          columnOfLogical_, influences_.size(), out);
+    } else {
+        const std::vector<std::uint32_t> rows(vertices.begin(), vertices.end());
+        weights.readDense(rows, columnOfLogical_, influences_.size(), out);
+    }
+}
+
+std::shared_ptr<const SkinCluster::BindPose> SkinCluster::bindPose() const
+{
+    auto pose = std::make_shared<BindPose>();
+    pose->influences = bindInfluences(*this);
+    for (const Influence &influence : influences_)
+        pose->logicalOfPhysical.push_back(influence.logicalIndex);
+    pose->usesNeighbours = evaluateNumber(node_->plug("weightDistribution")) != 0.0;
+    const NodePtr mesh = shape();
+    if (mesh && mesh->isA("mesh")) {
+        const MeshGeometry geometry = meshGeometry(*mesh);
+        const Value stored = node_->storedValue(node_->plug("geomMatrix"));
+        const Matrix *toWorld = std::get_if<Matrix>(&stored);
+        for (const skin::Vec3 &point : geometry.points)
+            pose->points.push_back(toWorld ? transformPoint(point, *toWorld) : point);
+        if (pose->usesNeighbours)
+            pose->adjacency = meshAdjacency(geometry);
+    }
+    return pose;
+}
+
+std::vector<double> SkinCluster::createWeights(const BindPose &pose, int vertex,
+                                               const std::vector<std::size_t> &free) const
+{
+    if (std::size_t(vertex) >= pose.points.size())
+        return {}; // no position is known: the caller spreads evenly
+    const skin::Vec3 &point = pose.points[std::size_t(vertex)];
+    if (!pose.usesNeighbours)
+        return skin::sharesByDistance(point, pose.influences, free);
+    return skin::sharesByNeighbours(*node_->weights(), pose.adjacency, std::size_t(vertex),
+                                    pose.logicalOfPhysical, point, pose.influences, free);
+}
+
+SkinWriteResult SkinCluster::write(const std::vector<int> &vertices,
+                                   const std::vector<int> &indices,
+                                   const std::vector<double> &values, bool normalize,
+                                   std::vector<double> *oldWeights) const
+{
+    checkWrite(*this, vertices, indices, values);
+    const std::size_t columns = influences_.size();
+    if (oldWeights) {
+        oldWeights->resize(vertices.size() * columns);
+        read(vertices, oldWeights->data());
+    }
+    std::vector<skin::Assignment> assignments;
+    for (const int index : indices)
+        assignments.push_back({std::size_t(index), 0.0});
+    return edit(
+        vertices,
+        [&](std::size_t place, const RowRule &rule) {
+            const double *row =
+                values.data() + (values.size() == indices.size() ? 0 : place * indices.size());
+            for (std::size_t i = 0; i < assignments.size(); ++i)
+                assignments[i].value = row[i];
+            return skin::writeWeights(rule.weights, columns, assignments.data(), assignments.size(),
+                                      rule.locked, rule.settings, rule.createWeights);
+        },
+        normalize);
+}
+
+SkinWriteResult SkinCluster::edit(const std::vector<int> &vertices, const RowEdit &change,
+                                  bool normalize) const
+{
+    const std::size_t columns = influences_.size();
+    const std::vector<bool> locked = locks();
+    const skin::WriteSettings rules = settings(normalize);
+    std::shared_ptr<const BindPose> pose;
+    std::vector<double> row(columns);
+    std::vector<std::size_t> rows;
+    std::vector<std::vector<skin::Entry>> newRows;
+    skin::WriteOutcome outcome;
+    for (std::size_t place = 0; place < vertices.size(); ++place) {
+        const int vertex = vertices[place];
+        read({vertex}, row.data());
+        const skin::CreateWeights create = [&](const std::vector<std::size_t> &free) {
+            if (!pose)
+                pose = bindPose();
+            return createWeights(*pose, vertex, free);
+        };
+        outcome |= change(place, RowRule{row.data(), locked, rules, create});
+        rows.push_back(std::size_t(vertex));
+        newRows.push_back(sparseRow(std::size_t(vertex), row.data()));
+    }
+    node_->scene()->setWeightRows(node_, rows, newRows);
+    return {outcome.couldNotSet, outcome.locksPreventedMax};
+}
+
+void SkinCluster::store(const std::vector<int> &vertices, const double *dense) const
+{
+    std::vector<std::size_t> rows(vertices.begin(), vertices.end());
+    std::vector<std::vector<skin::Entry>> newRows;
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        newRows.push_back(sparseRow(rows[i], dense + i * influences_.size()));
+    node_->scene()->setWeightRows(node_, rows, newRows);
+}
+
+// Weights of former influences, whose logical index has no column, stay in the row.
+std::vector<skin::Entry> SkinCluster::sparseRow(std::size_t vertex, const double *dense) const
+{
+    std::vector<skin::Entry> entries;
+    for (const skin::Entry &entry : node_->weights()->row(vertex)) {
+        if (entry.influence >= columnOfLogical_.size() || columnOfLogical_[entry.influence] < 0)
+            entries.push_back(entry);
+    }
+    const std::size_t kept = entries.size();
+    for (std::size_t i = 0; i < influences_.size(); ++i) {
+        if (dense[i] != 0.0)
+            entries.push_back({influences_[i].logicalIndex, dense[i]});
+    }
+    if (kept > 0)
+        std::sort(entries.begin(), entries.end(), [](const skin::Entry &a, const skin::Entry &b) {
+            return a.influence < b.influence;
+        });
+    return entries;
+}
+
+} // namespace host
