@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 #
-# The Debian packages that building and testing need, and a function that installs those that are missing.
-# For bash; sourced by run, test and .ci/run.
+# What run, test and .ci/run share, for bash: the Debian packages that building and testing need, and how a
+# machine is made ready.
 
 # qt6-base-dev and qtbase5-dev bring Qt's platform plug-ins xcb (a display) and offscreen (none) with them.
 readonly buildPackages=(g++ cmake ninja-build qt6-base-dev tao-pegtl-dev libgtest-dev libgmock-dev
@@ -37,4 +37,14 @@ installPackages() {
     "${asRoot[@]}" apt-get update -qq
     "${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive \
         apt-get install -y -qq --no-install-recommends "${missing[@]}"
+}
+
+# Tests and benchmarks run without a display unless QT_QPA_PLATFORM asks for one, and on real scenes if they lie
+# beside the checkout.
+prepareTestEnvironment() {
+    export QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-offscreen}
+    if [ -z "${KORVEX_SCENES:-}" ] && [ -d ../shared/scenes ]; then
+        KORVEX_SCENES=$(cd ../shared/scenes && pwd)
+        export KORVEX_SCENES
+    fi
 }
