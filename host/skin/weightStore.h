@@ -14,7 +14,7 @@
 // so that reading a row touches one place in memory, a changed row moves at most the rest of its
 // page (about 2 KB), and gaps of any size cost nothing. A page is shared between copies of a store
 // until one of them changes it: a copy, for undo or for "the values at the start of this round",
-// costs 24 bytes per page. 500,000 rows of 8 weights take about 72 MB.
+// costs 24 bytes per page. 500,000 rows of 8 weights take 68 MB.
 //
 // Not safe to change from several threads, not even through copies that still share pages.
 

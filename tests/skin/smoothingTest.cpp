@@ -111,7 +111,8 @@ TEST(smoothing, ignoresVerticesWithoutRowsAndNeighbours)
     store.setRow(0, {{0, 1.0}});
     store.setRow(1, {{4000000000, 1.0}});
     store.setRow(5, {{0, 1.0}});
-    EXPECT_EQ(smoothWeights(store, kCross, {0, 2, 5}, {}, {0.5, 1}), vertexList{0});
+    EXPECT_EQ(smoothWeights(store, kCross, {0, 2, 5}, {}, {0.5, 1, false, 0, false}),
+              vertexList{0});
     EXPECT_EQ(store.weight(0, 4000000000), 1.0);
     EXPECT_FALSE(store.hasRow(2));
 }

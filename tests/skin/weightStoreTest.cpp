@@ -76,6 +76,9 @@ TEST(weightStore, comparesBitsAndExistence)
     EXPECT_TRUE(a == b) << "however it came about";
     b.addRow(0);
     EXPECT_TRUE(a != b);
+    a.setRow(0, {{0, nan}});
+    a.setRow(1, {{1, 0.1}});
+    EXPECT_TRUE(a != b) << "the same entries in other rows";
 }
 
 TEST(weightStore, readsDenseTables)
