@@ -102,6 +102,9 @@ public:
     void setNumbers(const Plug &wholeArray, int first, const std::vector<double> &numbers);
     // Keeps an opaque value for a range of elements, first to last.
     void setOpaqueRange(const Plug &wholeArray, int first, int last, OpaqueValue value);
+    // Moves everything that is stored below a top-level attribute to another node that declares the
+    // same attribute, in place of what it has there. Connections stay where they are.
+    void moveData(const NodePtr &from, const NodePtr &to, std::string_view attribute);
     // Makes sure that the element exists, with its default value.
     void addElement(const Plug &element);
     void removeElement(const Plug &element);

@@ -206,6 +206,18 @@ void Scene::setOpaqueRange(const Plug &wholeArray, int first, int last, OpaqueVa
     });
 }
 
+void Scene::moveData(const NodePtr &from, const NodePtr &to, std::string_view attribute)
+{
+    const AttributePtr top = from->findAttribute(attribute);
+    if (!top || to->findAttribute(attribute) != top)
+        throw Error("'" + std::string(attribute) + "' can not be moved to '" + to->uniqueName() +
+                    "'.");
+    const auto data = from->data_.find(top.get());
+    Datum moved = data == from->data_.end() ? Datum() : data->second;
+    SceneEdit::run(*this, to, top, [&] { to->data_[top.get()] = std::move(moved); });
+    SceneEdit::run(*this, from, top, [&] { from->data_.erase(top.get()); });
+}
+
 void Scene::addElement(const Plug &element)
 {
     if (element.node->hasElement(element))

@@ -240,6 +240,18 @@ void SkinCluster::store(const std::vector<int> &vertices, const double *dense) c
     node_->scene()->setWeightRows(node_, rows, newRows);
 }
 
+void SkinCluster::visitBindWeights(const std::vector<int> &vertices,
+                                   const BindWeightsVisitor &visit) const
+{
+    const std::shared_ptr<const BindPose> pose = bindPose();
+    const unsigned most = settings(false).maxInfluences;
+    for (const int vertex : vertices) {
+        if (vertex >= 0 && std::size_t(vertex) < pose->points.size())
+            visit(vertex, skin::closestDistanceWeights(pose->points[std::size_t(vertex)],
+                                                       pose->influences, most));
+    }
+}
+
 // Weights of former influences, whose logical index has no column, stay in the row.
 std::vector<skin::Entry> SkinCluster::sparseRow(std::size_t vertex, const double *dense) const
 {

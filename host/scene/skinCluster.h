@@ -74,6 +74,12 @@ public:
     SkinWriteResult edit(const std::vector<int> &vertices, const RowEdit &change,
                          bool normalize) const;
 
+    // The weights that binding gives (closest distance in the bind pose, at most maxInfluences of
+    // them), vertex by vertex in the order given. Vertices whose position is not known are left
+    // out.
+    using BindWeightsVisitor = std::function<void(int vertex, const std::vector<double> &weights)>;
+    void visitBindWeights(const std::vector<int> &vertices, const BindWeightsVisitor &visit) const;
+
 private:
     struct BindPose;
     std::shared_ptr<const BindPose> bindPose() const;

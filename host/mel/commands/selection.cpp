@@ -152,7 +152,21 @@ MelValue select(Context &context, const Arguments &arguments)
     return {};
 }
 
-// Objects show their components as a whole, so a component stands for its transform.
+// The list knows an object as its transform or, once its components were selected, as its shape:
+// both go when one of them is named.
+void removeObject(SelectionList &list, const SelectionItem &item)
+{
+    list.remove(item);
+    if (item.path.isNull())
+        return;
+    if (isShape(*item.node) && !item.path.parent().isNull())
+        list.remove(wholePath(item.path.parent()));
+    for (const NodePtr &child : item.node->children()) {
+        if (isShape(*child))
+            list.remove(wholePath(item.path.child(child)));
+    }
+}
+
 MelValue hilite(Context &context, const Arguments &arguments)
 {
     SelectionList list = context.session.hilited();
@@ -162,12 +176,11 @@ MelValue hilite(Context &context, const Arguments &arguments)
     if (arguments.has("replace"))
         list.clear();
     for (SelectionItem item : items) {
-        if (item.component)
-            item = wholePath(isShape(*item.node) ? item.path.parent() : item.path);
+        item.component.reset();
         if (toggles)
             list.toggle(item);
         else if (removes)
-            list.remove(item);
+            removeObject(list, item);
         else
             list.merge(item);
     }
