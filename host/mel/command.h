@@ -7,7 +7,7 @@
 #pragma once
 
 #include <functional>
-#include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -25,10 +25,12 @@ class Interpreter;
 struct Operand {
     std::string_view text;
     bool isQuoted = false;
-    // Throws Error "Invalid arguments ..." when the text is no such thing.
+    // Throw Error "Invalid arguments ..." when the text is no such thing. Quotes make no
+    // difference, and the words true, on, yes (1) and false, off, no (0) are numbers too, as in
+    // MEL.
     double number() const;
-    long long integer() const;
-    bool boolean() const; // true/false, on/off, yes/no, 1/0
+    long long integer() const; // a fraction is cut off
+    bool boolean() const;      // any number but 0 is true
     std::string string() const { return std::string(text); }
 };
 
@@ -70,9 +72,16 @@ public:
     std::vector<std::pair<std::string, std::size_t>> order;
 
 private:
-    friend class CommandTable;
-    friend struct ArgumentSorter;
-    std::map<std::string, std::vector<std::vector<Operand>>, std::less<>> flags_;
+    friend class ArgumentSorter;
+    struct UsedFlag {
+        const Flag *flag;
+        std::vector<std::vector<Operand>> uses;
+    };
+    const UsedFlag *find(std::string_view longName) const;
+    const Operand *first(std::string_view longName) const;
+
+    const std::vector<Flag> *declared_ = nullptr; // the command's
+    std::vector<UsedFlag> used_;
 };
 
 // What a command may touch. `currentNode` is the node that relative plugs (".t") and addAttr,
@@ -88,6 +97,7 @@ struct Context {
     Scene &scene() { return target ? *target : session.scene(); }
 };
 
+// Fails by throwing Error; with an empty text if what went wrong has been shown already.
 using CommandFunction = std::function<MelValue(Context &, const Arguments &)>;
 
 struct Command {
@@ -113,13 +123,20 @@ public:
     const Command *find(std::string_view name) const;
     std::vector<std::string> names() const; // sorted
 
-    // Sorts evaluated operands by the command's flags. Throws Error: "Invalid flag '-xyz'", too few
-    // arguments for a flag, a flag repeated that may not.
+    // The same, kept alive for a call in which it may be removed.
+    std::shared_ptr<const Command> hold(std::string_view name) const;
+
+    // Sorts evaluated operands by the command's flags, which must outlive the result. Throws Error:
+    // "Invalid flag '-xyz'", too few or wrong arguments for a flag, a flag repeated that may not.
+    //
+    // In query mode, flags that stand before -query take their arguments as ever (skinPercent -ib
+    // 0.1 -q -v), those after it only with queryTakesValue, and only if what follows fits. In the
+    // function form quoted flags are flags; in the imperative form only words are.
     static Arguments sort(const Command &command, const std::vector<Operand> &operands,
                           bool isFunctionForm);
 
 private:
-    std::unordered_map<std::string, Command> commands_;
+    std::unordered_map<std::string, std::shared_ptr<const Command>> commands_;
 };
 
 } // namespace host::mel

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // Runs MEL: parses a text and calls the commands of its table, one statement after the other.
 //
-// The first error stops the text; what ran before stays done. No variables, control flow or
+// A text with a syntax error does nothing at all. Otherwise the first error stops the text; what
+// ran before stays done. No variables, control flow or
 // procedures: they are refused as a syntax error that says so.
 #pragma once
 
@@ -18,7 +19,8 @@ class PluginLoader;
 
 struct RunOptions {
     bool echo = false;         // show the text and its result (executeCommand's displayEnabled)
-    bool undo = false;         // keep what can be undone; false: nothing is recorded
+    bool undo = false;         // keep what can be undone; false: nothing is recorded, and a
+                               // command that fails half way leaves what it did
     bool oneItem = true;       // all statements are one undo item; false: one item each
     bool resultPrefix = false; // show the result as typed input does: "Result: text"
     std::string file;          // named in errors when the text is that of a script file
@@ -39,7 +41,11 @@ public:
     // Errors are shown ("line 1: Cannot find procedure \"fred\".") and counted, never thrown.
     Outcome run(std::string_view text, const RunOptions &options);
 
-    // Runs one parsed statement in `context`; used by the reader of files too. Throws Error.
+    // Runs one parsed statement in `context`; used by the reader of files too. Throws Error, after
+    // what the failing command has recorded for undo was taken back.
+    //
+    // `catch` and `catchQuiet`, which must see their arguments fail, are known here and not in the
+    // table. While a file is read, only its own statements run and no calls inside them.
     MelValue call(Context &context, const Statement &statement);
 
     // What loadPlugin works with (pluginLoader.h); not owned. Null: there are no plug-ins.
@@ -50,9 +56,14 @@ public:
     int exitCode = 0;
 
 private:
+    friend class ScriptRun;
+    MelValue callCatch(Context &context, const Statement &statement);
+    MelValue callCommand(Context &context, const Statement &statement);
+
     Session &session_;
     CommandTable commands_;
-    unsigned depth_ = 0;
+    unsigned runDepth_ = 0;  // calls of run() inside each other
+    unsigned callDepth_ = 0; // calls of call() inside each other, over all runs
 };
 
 // Adds every built-in command; one line per family in host/mel/commands/builtInCommands.cpp.
