@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "mel/commands/commandSupport.h"
+
+#include <algorithm>
+
+#include "mel/commands/attributeAlias.h"
+#include "scene/error.h"
+
+namespace host::mel
+{
+
+namespace
+{
+
+// The node itself or, where a transform lacks the attribute and a shape of it has it, that shape:
+// "pCube1.vrts" is understood.
+NodePtr ownerOfAttribute(const NodePtr &node, std::string_view attribute)
+{
+    if (node->findAttribute(attribute) || !node->isA("transform"))
+        return node;
+    for (const NodePtr &child : node->children()) {
+        if (isShape(*child) && !child->isIntermediate() && child->findAttribute(attribute))
+            return child;
+    }
+    return node;
+}
+
+std::string_view firstStep(std::string_view path)
+{
+    return path.substr(0, path.find_first_of(".["));
+}
+
+// A path through another instance than the first means that instance's element of the arrays that
+// have one element per instance.
+void selectInstance(Context &context, const PlugName &name, PlugRange &range)
+{
+    const std::string_view step = firstStep(name.attribute);
+    const bool hasIndex = step.size() < name.attribute.size() && name.attribute[step.size()] == '[';
+    const bool hasChild = range.plug.indices[0] != kNoIndex;
+    if (hasIndex || !hasChild || range.plug.node->parents().size() < 2)
+        return;
+    if (!range.plug.node->findAttribute(step)->isPerInstance)
+        return;
+    const std::vector<DagPath> paths = context.scene().pathsMatching(name.node);
+    if (!paths.empty())
+        range.plug.indices[0] = int(paths.front().instanceNumber());
+}
+
+PlugRange resolve(Context &context, const NodePtr &start, const PlugName &name,
+                  UnknownAttribute unknown)
+{
+    const std::string_view step = firstStep(name.attribute);
+    const NodePtr node = unknown == UnknownAttribute::learn ? start : ownerOfAttribute(start, step);
+    if (!node->findAttribute(step)) {
+        std::string path = resolveAlias(*node, step);
+        if (!path.empty()) {
+            path += name.attribute.substr(step.size());
+            return resolvePlugPath(node, path, UnknownAttribute::refuse);
+        }
+    }
+    PlugRange range = resolvePlugPath(node, name.attribute, unknown);
+    for (int index : range.plug.indices)
+        checkIndex(context, index);
+    checkIndex(context, range.last);
+    selectInstance(context, name, range);
+    return range;
+}
+
+template <typename T>
+void appendOnce(std::vector<T> &list, const T &entry)
+{
+    if (std::find(list.begin(), list.end(), entry) == list.end())
+        list.push_back(entry);
+}
+
+} // namespace
+
+NodePtr requireNode(Context &context, std::string_view name)
+{
+    return context.scene().node(name);
+}
+
+DagPath requirePath(Context &context, std::string_view name)
+{
+    const NodePtr node = requireNode(context, name);
+    if (!node->isDag())
+        throw Error("'" + std::string(name) + "' is not a DAG object.");
+    return context.scene().pathsMatching(name).front();
+}
+
+NodePtr requireNodeOfType(Context &context, std::string_view name, std::string_view type)
+{
+    NodePtr node = requireNode(context, name);
+    if (!node->isA(type))
+        throw Error("Object '" + std::string(name) + "' is not a " + std::string(type) + ".");
+    return node;
+}
+
+PlugName splitPlugName(std::string_view name)
+{
+    const std::size_t dot = name.find('.');
+    if (dot == std::string_view::npos)
+        return {name, {}};
+    return {name.substr(0, dot), name.substr(dot + 1)};
+}
+
+PlugRange requirePlug(Context &context, std::string_view name)
+{
+    const PlugName parts = splitPlugName(name);
+    const bool isRelative = parts.node.empty();
+    if (parts.attribute.empty() || (isRelative && !(context.currentNode && *context.currentNode)))
+        throwNoSuchObject(std::string(name));
+    const NodePtr node = isRelative ? *context.currentNode : requireNode(context, parts.node);
+    return resolve(context, node, parts,
+                   context.isReadingFile ? UnknownAttribute::learn : UnknownAttribute::refuse);
+}
+
+Plug requireSinglePlug(Context &context, std::string_view name)
+{
+    const PlugRange range = requirePlug(context, name);
+    if (range.rangeDepth >= 0)
+        throw Error("'" + std::string(name) + "' means several attributes; one is expected.");
+    return range.plug;
+}
+
+std::optional<PlugRange> findPlug(Context &context, std::string_view name)
+{
+    const PlugName parts = splitPlugName(name);
+    const NodePtr node = parts.node.empty() ? nullptr : context.scene().findNode(parts.node);
+    if (!node || parts.attribute.empty())
+        return std::nullopt;
+    try {
+        return resolve(context, node, parts, UnknownAttribute::refuse);
+    } catch (const Error &) {
+        return std::nullopt;
+    }
+}
+
+std::vector<SelectionItem> objectsOrSelection(Context &context, const Arguments &arguments)
+{
+    if (arguments.objects.empty())
+        return context.session.selection().items();
+    std::vector<SelectionItem> items;
+    for (const Operand &object : arguments.objects) {
+        std::vector<SelectionItem> found = requireName(context.scene(), object.text);
+        std::move(found.begin(), found.end(), std::back_inserter(items));
+    }
+    return items;
+}
+
+std::vector<NodePtr> nodesOrSelection(Context &context, const Arguments &arguments)
+{
+    std::vector<NodePtr> nodes;
+    for (const SelectionItem &item : objectsOrSelection(context, arguments))
+        appendOnce(nodes, item.node);
+    return nodes;
+}
+
+std::vector<DagPath> pathsOrSelection(Context &context, const Arguments &arguments)
+{
+    std::vector<DagPath> paths;
+    for (const SelectionItem &item : objectsOrSelection(context, arguments)) {
+        if (item.path.isNull())
+            throw Error("'" + item.node->uniqueName() + "' is not a DAG object.");
+        appendOnce(paths, item.path);
+    }
+    return paths;
+}
+
+void requireObjectCount(const Arguments &arguments, std::string_view command, std::size_t least,
+                        std::size_t most)
+{
+    if (arguments.objects.size() < least || arguments.objects.size() > most)
+        throw Error("Wrong number of arguments on call to " + std::string(command) + '.');
+}
+
+double requireNumber(std::string_view text)
+{
+    double number = 0.0;
+    if (!parseNumber(text.data(), text.data() + text.size(), number))
+        throw Error("Invalid arguments: '" + std::string(text) + "' is not a number.");
+    return number;
+}
+
+std::size_t requireCount(const Context &context, std::string_view text)
+{
+    const double number = requireNumber(text);
+    if (!(number >= 0.0) || number > double(kMaxElements))
+        throw Error("The size " + std::string(text) + " is out of range.");
+    checkIndex(context, static_cast<long long>(number));
+    return static_cast<std::size_t>(number);
+}
+
+void checkIndex(const Context &context, long long index)
+{
+    const long long limit = context.isReadingFile
+                                ? std::min(kMaxElements, static_cast<long long>(context.fileSize))
+                                : kMaxElements;
+    if (index > limit)
+        throw Error("The index " + std::to_string(index) + " is out of range.");
+}
+
+std::vector<std::string> uniqueNames(const std::vector<NodePtr> &nodes)
+{
+    std::vector<std::string> names;
+    names.reserve(nodes.size());
+    for (const NodePtr &node : nodes)
+        names.push_back(node->uniqueName());
+    return names;
+}
+
+std::string uniqueName(const SelectionItem &item)
+{
+    return item.path.isNull() ? item.node->uniqueName() : item.path.partialName();
+}
+
+NodePtr objectOf(const NodePtr &node)
+{
+    if (!isShape(*node) || node->parents().empty())
+        return node;
+    return node->parents().front()->shared_from_this();
+}
+
+bool isShape(const Node &node)
+{
+    return node.isA("shape");
+}
+
+} // namespace host::mel
