@@ -131,6 +131,8 @@ public:
     // True once anything was changed since it was last set to false.
     bool isModified() const { return isModified_; }
     void setModified(bool modified) { isModified_ = modified; }
+    // Grows whenever a node comes, goes, moves or gets another name.
+    unsigned long structureRevision() const { return structureRevision_; }
 
 private:
     friend struct SceneEdit;
@@ -151,6 +153,7 @@ private:
     unsigned long nextSerial_ = 0;
     ChangeRecorder *recorder_ = nullptr;
     bool isModified_ = false;
+    unsigned long structureRevision_ = 0;
 };
 
 // Switches recording off for a while.

@@ -64,6 +64,7 @@ std::size_t placeOf(const List &list, const Item &item)
 
 void Scene::enter(const NodePtr &node)
 {
+    ++structureRevision_;
     node->scene_ = this;
     nodes_[node->serial_] = node;
     std::vector<NodePtr> &named = byName_[node->name_];
@@ -75,6 +76,7 @@ void Scene::enter(const NodePtr &node)
 
 void Scene::leave(const NodePtr &node)
 {
+    ++structureRevision_;
     node->scene_ = nullptr;
     nodes_.erase(node->serial_);
     std::vector<NodePtr> &named = byName_[node->name_];
@@ -309,11 +311,13 @@ void Scene::addInstance(const NodePtr &node, const NodePtr &parent)
     if (name != node->name_)
         rename(node, name);
     perform(
-        [node, to] {
+        [this, node, to] {
+            ++structureRevision_;
             node->parents_.push_back(to.get());
             to->children_.push_back(node);
         },
-        [node, to] {
+        [this, node, to] {
+            ++structureRevision_;
             node->parents_.pop_back();
             to->children_.pop_back();
         });
@@ -327,11 +331,13 @@ void Scene::removeInstance(const NodePtr &node, const NodePtr &parent)
     if (place == from->children_.size() || node->parents_.size() < 2)
         throw Error("'" + node->uniqueName() + "' has no such instance.");
     perform(
-        [node, from, place, instance] {
+        [this, node, from, place, instance] {
+            ++structureRevision_;
             node->parents_.erase(node->parents_.begin() + long(instance));
             from->children_.erase(from->children_.begin() + long(place));
         },
-        [node, from, place, instance] {
+        [this, node, from, place, instance] {
+            ++structureRevision_;
             insertAt(node->parents_, instance, from.get());
             insertAt(from->children_, place, node);
         });
