@@ -36,7 +36,7 @@ installPackages() {
     echo "Installing: ${missing[*]}"
     "${asRoot[@]}" apt-get update -qq
     "${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y -qq --no-install-recommends "${missing[@]}"
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
 # Tests and benchmarks run without a display unless QT_QPA_PLATFORM asks for one, and on real scenes if they lie
