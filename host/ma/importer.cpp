@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: Apache-2.0
+// Importing: the file is read into a scene of its own, so that a broken one changes nothing; its
+// nodes get names that are free in the session's scene, and are then written and run there.
+#include <algorithm>
+#include <set>
+#include <utility>
+#include <vector>
+
+#include "ma/maFile.h"
+#include "ma/sceneWriter.h"
+#include "scene/error.h"
+
+namespace host::ma
+{
+
+namespace
+{
+
+// A rename that locked nodes take too.
+void forceName(Scene &scene, const NodePtr &node, const std::string &name)
+{
+    const bool isLocked = node->isLocked();
+    const bool isLockUnpublished = node->isLockUnpublished();
+    scene.setNodeLock(node, false, isLockUnpublished);
+    scene.rename(node, name);
+    scene.setNodeLock(node, isLocked, isLockUnpublished);
+}
+
+// "hip", "hip1", "hip2", ...: the first that neither scene has.
+std::string freeName(const Scene &imported, const Scene &target, const std::string &wanted)
+{
+    if (target.nodesNamed(wanted).empty())
+        return wanted;
+    const std::string stem = wanted.substr(0, wanted.find_last_not_of("0123456789") + 1);
+    unsigned number = 1;
+    std::string name;
+    do {
+        name = stem + std::to_string(number++);
+    } while (!target.nodesNamed(name).empty() || !imported.nodesNamed(name).empty());
+    return name;
+}
+
+// Shared nodes (the default cameras, lightLinker1) stand for those of the same name.
+std::vector<NodePtr> presentNodes(const Scene &imported, const Scene &target)
+{
+    std::vector<NodePtr> present;
+    for (const NodePtr &node : imported.nodes()) {
+        if (node->isShared() && !target.nodesNamed(node->name()).empty())
+            present.push_back(node);
+    }
+    return present;
+}
+
+void giveFreeNames(Scene &imported, const Scene &target, const std::string &nameSpace)
+{
+    std::set<std::string> uuids;
+    for (const NodePtr &node : target.nodes())
+        uuids.insert(node->uuid());
+    std::vector<std::pair<NodePtr, std::string>> wanted;
+    for (const NodePtr &node : imported.nodes()) {
+        if (uuids.count(node->uuid()) > 0)
+            imported.setUuid(node, "");
+        if (!node->isDefault() && !node->isShared())
+            wanted.emplace_back(node, (nameSpace.empty() ? "" : nameSpace + ':') + node->name());
+    }
+    for (const auto &[node, name] : wanted)
+        forceName(imported, node, freeName(imported, target, name));
+}
+
+void runText(mel::Interpreter &interpreter, std::string_view text, Scene &target)
+{
+    NodePtr currentNode;
+    mel::Context context{interpreter.session(), interpreter, &currentNode, true,
+                         text.size(),           &target};
+    mel::Script script;
+    while (!text.empty()) {
+        std::size_t lines = 0;
+        const std::size_t end = std::min(mel::statementEnd(text, lines), text.size());
+        script.clear();
+        if (const mel::SyntaxError error = mel::parseScript(text.substr(0, end), script))
+            throw Error(error.message);
+        for (const mel::Statement &statement : script.statements)
+            interpreter.call(context, statement);
+        text.remove_prefix(end);
+    }
+}
+
+} // namespace
+
+void importFile(mel::Interpreter &interpreter, const std::string &path,
+                const std::string &nameSpace)
+{
+    const std::unique_ptr<Scene> imported = readFile(interpreter, path);
+    Scene &target = interpreter.session().scene();
+    giveFreeNames(*imported, target, nameSpace);
+
+    std::string text;
+    StatementWriter out([&text](std::string_view piece) { text += piece; });
+    SceneWriter(out, *imported).writeNodesFor(presentNodes(*imported, target));
+    out.finish();
+    runText(interpreter, text, target);
+}
+
+} // namespace host::ma

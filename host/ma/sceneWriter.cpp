@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ma/sceneWriter.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "ma/maFile.h"
+#include "ma/outputFile.h"
+
+namespace host::ma
+{
+
+namespace
+{
+
+// The first release that writes packed weights.
+constexpr int kFirstPackedRelease = 2018;
+
+FileStyle styleOf(const FileFacts &facts)
+{
+    FileStyle style;
+    style.flags.areLong = facts.hasLongNames;
+    const int release = std::atoi(facts.mayaVersion.c_str()); // "2018ff07", "7.0"
+    if (release > 0 && release < kFirstPackedRelease)
+        style.weights = WeightForm::runs;
+    return style;
+}
+
+// Marks the session while a file is written.
+class WritingMark
+{
+public:
+    explicit WritingMark(Session &session) : session_(session), before_(session.isWritingFile)
+    {
+        session_.isWritingFile = true;
+    }
+    ~WritingMark() { session_.isWritingFile = before_; }
+    WritingMark(const WritingMark &) = delete;
+    WritingMark &operator=(const WritingMark &) = delete;
+
+private:
+    Session &session_;
+    bool before_;
+};
+
+} // namespace
+
+SceneWriter::SceneWriter(StatementWriter &out, Scene &scene)
+    : out_(out), scene_(scene), style_(styleOf(scene.facts)), nodes_(out_, style_)
+{
+}
+
+void SceneWriter::writeFile(const std::string &fileName)
+{
+    writeHeader(fileName);
+    writeFacts();
+    writeBelow(scene_.world());
+    writeLateInstances();
+    writeDependencyNodes();
+    for (const NodePtr &node : scene_.nodes()) {
+        if (node->isDefault())
+            nodes_.writeDefaultNode(node);
+    }
+    writeConnections();
+    for (const std::string &statement : scene_.facts.trailing)
+        out_.line(statement);
+    out_.line("// End of " + fileName);
+}
+
+void SceneWriter::writeNodesFor(const std::vector<NodePtr> &present)
+{
+    present_ = present;
+    writeBelow(scene_.world());
+    writeLateInstances();
+    writeDependencyNodes();
+    writeConnections();
+}
+
+// No date: two savings of one scene are equal.
+void SceneWriter::writeHeader(const std::string &fileName)
+{
+    out_.line("//Maya ASCII " + scene_.facts.mayaVersion + " scene");
+    out_.line("//Name: " + fileName);
+    out_.line("//Codeset: UTF-8");
+}
+
+void SceneWriter::writeFacts()
+{
+    const FileFacts &facts = scene_.facts;
+    const FlagNames &flags = style_.flags;
+    for (const std::string &statement : facts.references)
+        out_.line(statement);
+    out_.begin("requires").word("maya").quoted(facts.mayaVersion).end();
+    for (const std::string &statement : facts.requiredPlugins)
+        out_.line(statement);
+    out_.begin("currentUnit")
+        .flag(flags("-l", "-linear"), facts.linearUnit)
+        .flag(flags("-a", "-angle"), facts.angularUnit)
+        .flag(flags("-t", "-time"), facts.timeUnit)
+        .end();
+    for (const auto &[key, value] : facts.fileInfo)
+        out_.begin("fileInfo").quoted(key).quoted(value).end();
+}
+
+bool SceneWriter::isPresent(const NodePtr &node) const
+{
+    return std::find(present_.begin(), present_.end(), node) != present_.end();
+}
+
+// Each node below its first parent; at the others it is an instance of what is there already.
+void SceneWriter::writeBelow(const NodePtr &parent)
+{
+    for (const NodePtr &node : parent->children()) {
+        if (node->parents().front() != parent.get()) {
+            writeInstance(node, parent);
+            continue;
+        }
+        if (!isPresent(node))
+            nodes_.writeNode(node);
+        written_.push_back(node);
+        if (node->parents().size() > 1)
+            instances_[node.get()] = 1;
+        writeBelow(node);
+    }
+}
+
+// Where an instance can't be made yet, because the node or one of its earlier instances comes
+// later, it is left to writeLateInstances().
+void SceneWriter::writeInstance(const NodePtr &node, const NodePtr &parent)
+{
+    const auto done = instances_.find(node.get());
+    if (done == instances_.end() || node->parents()[done->second] != parent.get())
+        return;
+    ++done->second;
+    out_.begin("parent").word("-s").word("-nc").word("-r").word("-add");
+    if (parent == scene_.world())
+        out_.word("-w").quoted(DagPath::first(node).fullName());
+    else
+        out_.quoted(DagPath::first(node).fullName()).quoted(parentText(parent));
+    out_.end();
+}
+
+void SceneWriter::writeLateInstances()
+{
+    for (const NodePtr &node : written_) {
+        const std::size_t count = node->parents().size();
+        while (count > 1 && instances_[node.get()] < count) {
+            Node *parent = node->parents()[instances_[node.get()]];
+            writeInstance(node, parent->shared_from_this());
+        }
+    }
+}
+
+void SceneWriter::writeDependencyNodes()
+{
+    for (const NodePtr &node : scene_.nodes()) {
+        if (node->isDag() || node->isDefault())
+            continue;
+        if (!isPresent(node))
+            nodes_.writeNode(node);
+        written_.push_back(node);
+    }
+}
+
+void SceneWriter::writeConnections()
+{
+    for (const NodePtr &node : written_)
+        writeConnectionsInto(node);
+    for (const NodePtr &node : scene_.nodes()) {
+        if (node->isDefault())
+            writeConnectionsInto(node);
+    }
+}
+
+void SceneWriter::writeConnectionsInto(const NodePtr &node)
+{
+    const FlagNames &flags = style_.flags;
+    for (const auto &[key, connection] : node->sources()) {
+        Plug destination = node->plugOf(key);
+        const bool takesNext = destination.isElement() && !destination.attribute->indexMatters;
+        if (takesNext)
+            destination = destination.array();
+        out_.begin("connectAttr")
+            .quoted(plugName(connection.plug(), flags.areLong))
+            .quoted(plugName(destination, flags.areLong));
+        if (connection.isLocked)
+            out_.flag(flags("-l", "-lock"), "on");
+        if (takesNext)
+            out_.word(flags("-na", "-nextAvailable"));
+        out_.end();
+    }
+}
+
+void writeFile(Session &session, const std::string &path)
+{
+    const WritingMark mark(session);
+    OutputFile file(path);
+    StatementWriter out([&file](std::string_view text) { file.write(text); });
+    SceneWriter(out, session.scene()).writeFile(path.substr(path.rfind('/') + 1));
+    out.finish();
+    file.commit();
+}
+
+} // namespace host::ma

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: Apache-2.0
+// Writes a scene as the statements of a Maya ASCII file, in Maya's order.
+#pragma once
+
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "ma/nodeWriter.h"
+#include "scene/scene.h"
+
+namespace host::ma
+{
+
+class SceneWriter
+{
+public:
+    SceneWriter(StatementWriter &out, Scene &scene);
+
+    // All of it, header and end included. `fileName` is what the header names: no folder.
+    void writeFile(const std::string &fileName);
+
+    // Nodes and connections only, for another scene: what that scene has anyway, default nodes and
+    // the nodes in `present`, is named in connections but not written.
+    void writeNodesFor(const std::vector<NodePtr> &present);
+
+private:
+    void writeHeader(const std::string &fileName);
+    void writeFacts();
+    void writeBelow(const NodePtr &parent);
+    void writeInstance(const NodePtr &node, const NodePtr &parent);
+    void writeLateInstances();
+    void writeDependencyNodes();
+    void writeConnections();
+    void writeConnectionsInto(const NodePtr &node);
+    bool isPresent(const NodePtr &node) const;
+
+    StatementWriter &out_;
+    Scene &scene_;
+    FileStyle style_;
+    NodeWriter nodes_;
+    std::vector<NodePtr> present_;
+    std::vector<NodePtr> written_;                            // in the order of their createNode
+    std::unordered_map<const Node *, std::size_t> instances_; // of nodes with several: done so far
+};
+
+} // namespace host::ma

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: Apache-2.0
+// Writes the setAttr statements of one node.
+//
+// What is stored is written, equal to a default or not: defaults differ between Maya's releases.
+// Long arrays are cut after some 500 numbers, as Maya does it.
+#pragma once
+
+#include <map>
+#include <set>
+#include <string>
+
+#include "ma/plugText.h"
+#include "ma/statementWriter.h"
+#include "scene/datum.h"
+#include "scene/node.h"
+
+namespace host::ma
+{
+
+// Numbers, or weights, that one statement holds at most.
+constexpr std::size_t kNumbersPerStatement = 500;
+
+enum class WeightForm {
+    runs,  // ".wl[0].w[3:4]" 0.25 0.75, up to Maya 2017
+    packed // ".wl[0:7].w" with count and pairs per vertex, since Maya 2018
+};
+
+struct FileStyle {
+    FlagNames flags;
+    WeightForm weights = WeightForm::packed;
+};
+
+class ValueWriter
+{
+public:
+    ValueWriter(StatementWriter &out, const FileStyle &style, const NodePtr &node);
+
+    // Values with their states, in the node's attribute order, then the states of plugs that have
+    // no value.
+    void writeAll();
+
+private:
+    void writeAttribute(const AttributePtr &attribute);
+    void writeArray(const Plug &array, const Datum &datum);
+    void writeNumbers(const Plug &array, const PackedNumbers &numbers);
+    void writeRun(const Plug &array, int first, const double *numbers, std::size_t elements);
+    void writeElements(const Plug &array, const Datum &datum);
+    void writeItem(const Plug &plug, const Datum &datum);
+    void writeTuple(const Plug &plug, const Datum &datum);
+    void writeLeaf(const Plug &plug, const Datum &datum);
+    void writeSize(const Plug &array, std::size_t size);
+    void writeStates();
+
+    // "setAttr [-s N] [states] ".path"", the plug's state being done with then.
+    StatementWriter &begin(const Plug &plug, const std::string &range = {});
+    bool hasConnections(const Attribute &attribute) const; // at some plug of it or below
+    bool isConnected(const Plug &plug) const;
+    bool isImplied(const Plug &element, const double *numbers) const;
+
+    StatementWriter &out_;
+    const FileStyle &style_;
+    NodePtr node_;
+    std::map<PlugKey, PlugState> states_;   // still to be written
+    std::set<const Attribute *> connected_; // attributes with a connection at some plug
+    std::size_t pendingSize_ = 0;           // for -s of the next statement; 0: none
+    std::size_t pendingCapacity_ = 0;       // the same for -ch
+};
+
+} // namespace host::ma
