@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: Apache-2.0
+// The filter that hides the columns of joints without weight.
+#include "model/weightTableModel.h"
+
+#include <QHeaderView>
+#include <QTableView>
+
+#include "model/emptyColumns.h"
+#include "model/messages.h"
+
+#include <maya/MGlobal.h>
+
+void weightTableModel::toggleFilter(bool on)
+{
+    isFiltering_ = on;
+    if (weights_.rows.isEmpty()) {
+        MGlobal::displayError(kNothingLoaded);
+        return;
+    }
+    applyColumnFilter();
+}
+
+void weightTableModel::setUpColumn()
+{
+    if (!weights_.rows.isEmpty())
+        applyColumnFilter();
+}
+
+void weightTableModel::applyColumnFilter()
+{
+    if (!view_)
+        return;
+    // Finding them means reading the table, so only who wants to hide them pays for it.
+    emptyColumns_ = isFiltering_ ? emptyColumns(weights_.rows, columnCount()) : QList<int>();
+
+    QHeaderView *header = view_->horizontalHeader();
+    QList<int>::const_iterator nextEmpty = emptyColumns_.constBegin();
+    for (int column = 0; column < header->count(); ++column) {
+        const bool isEmpty = nextEmpty != emptyColumns_.constEnd() && *nextEmpty == column;
+        if (isEmpty) {
+            header->setSectionHidden(column, true);
+            ++nextEmpty;
+        } else {
+            header->setSectionHidden(column, false);
+            header->resizeSection(column, header->defaultSectionSize());
+        }
+    }
+}

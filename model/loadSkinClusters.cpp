@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: Apache-2.0
+// Loading: from Maya's selection to the rows of the table. Reads the scene, never writes to it.
+#include "model/weightTableModel.h"
+
+#include "model/mayaText.h"
+#include "model/messages.h"
+#include "model/precisionRounding.h"
+#include "model/selectedShapes.h"
+#include "model/skinClustersOfShape.h"
+#include "model/vertexRowBuilder.h"
+#include "plugin/processState.h"
+
+#include <maya/MDoubleArray.h>
+#include <maya/MFnDependencyNode.h>
+#include <maya/MFnSingleIndexedComponent.h>
+#include <maya/MFnSkinCluster.h>
+#include <maya/MGlobal.h>
+#include <maya/MIntArray.h>
+#include <maya/MItGeometry.h>
+#include <maya/MItMeshVertex.h>
+#include <maya/MSelectionList.h>
+
+namespace
+{
+
+MDagPathArray influencesOf(const MObject &skinCluster)
+{
+    MDagPathArray influences;
+    MFnSkinCluster(skinCluster).influenceObjects(influences);
+    return influences;
+}
+
+void gatherShape(const selectedShape &shape, weightList &weights)
+{
+    const MObjectArray skinClusters = skinClustersOfShape(shape.path);
+    for (unsigned int i = 0; i < skinClusters.length(); ++i) {
+        weights.skinClusters.append(skinClusters[i]);
+        weights.shapePaths.append(shape.path);
+        weights.shapeComponents.append(shape.component);
+        const MDagPathArray influences = influencesOf(skinClusters[i]);
+        for (unsigned int influence = 0; influence < influences.length(); ++influence)
+            weights.addJointColumn(influences[influence]);
+    }
+}
+
+// The vertices that the rows of a shape stand for, in row order.
+QVector<int> loadedVertices(const MDagPath &shape, const MObject &component)
+{
+    QVector<int> vertices;
+    if (component.isNull()) {
+        for (MItGeometry point(shape); !point.isDone(); point.next())
+            vertices.append(point.index());
+        return vertices;
+    }
+    const MFnSingleIndexedComponent elements(component);
+    const int count = elements.elementCount();
+    vertices.reserve(count);
+    for (int k = 0; k < count; ++k)
+        vertices.append(elements.element(k));
+    return vertices;
+}
+
+MObject allVertices(const MDagPath &shape)
+{
+    MFnSingleIndexedComponent component;
+    const MObject object = component.create(MFn::kMeshVertComponent);
+    component.setCompleteData(MItMeshVertex(shape).count());
+    return object;
+}
+
+QVector<int> columnsOfInfluences(const MObject &skinCluster, const weightList &weights)
+{
+    const MDagPathArray influences = influencesOf(skinCluster);
+    QVector<int> columns;
+    for (unsigned int i = 0; i < influences.length(); ++i)
+        columns.append(weights.jointColumnOf(influences[i]));
+    return columns;
+}
+
+} // namespace
+
+void weightTableModel::refreshSkinClusterData()
+{
+    beginResetModel();
+    weightsBeforeLoad_ = weights_;
+    MSelectionList selection;
+    MGlobal::getActiveSelectionList(selection);
+    wholeListRounding rounding(settings_.precision);
+
+    if (autoUpdate && selection.isEmpty()) {
+        roundLoadedRows(rounding);
+    } else {
+        weights_ = weightList();
+        const QVector<selectedShape> shapes = selectedShapes(selection);
+        for (int i = 0; i < shapes.size(); ++i)
+            gatherShape(shapes.at(i), weights_);
+        for (int shape = 0; shape < weights_.shapeCount(); ++shape)
+            appendShapeBlock(shape, rounding);
+    }
+    weights_.readJointHeaders();
+    endResetModel();
+
+    // Once each, however many rows are like that.
+    if (rounding.metRowWithoutColumns())
+        MGlobal::displayError(kRowWithoutColumns);
+    if (rounding.metRowWithoutWeight())
+        MGlobal::displayError(kRowWithoutWeight);
+}
+
+// Appends a shape row and the shape's vertex rows. All weights are read with one call; whether a
+// vertex was normalized is told before its row is rounded.
+void weightTableModel::appendShapeBlock(int shape, wholeListRounding &rounding)
+{
+    const MDagPath &path = weights_.shapePaths[shape];
+    const MObject &component = weights_.shapeComponents[shape];
+    const int shapeRowIndex = static_cast<int>(weights_.rows.size());
+    weights_.shapeRows.append(shapeRowIndex);
+    weights_.rowNames.appendShape(textOf(MFnDependencyNode(path.node()).name()));
+    weights_.rows.append(shapeRow(weights_.jointCount()));
+
+    MDoubleArray read;
+    unsigned int influenceCount = 0;
+    MFnSkinCluster(weights_.skinClusters[shape])
+        .getWeights(path, component.isNull() ? allVertices(path) : component, read, influenceCount);
+    const QVector<int> columns = columnsOfInfluences(weights_.skinClusters[shape], weights_);
+    const QVector<int> vertices = loadedVertices(path, component);
+    // Not so for what is no mesh, or could not be read: its block has no vertex rows.
+    if (vertices.isEmpty() || static_cast<int>(influenceCount) != columns.size() ||
+        read.length() != static_cast<unsigned int>(vertices.size()) * influenceCount)
+        return;
+
+    const vertexRowBuilder builder(shape, weights_.jointCount(), columns);
+    const double tolerance = normalizationTolerance(settings_.precision);
+    bool isNormalizedShape = true;
+    weights_.rows.reserve(shapeRowIndex + 1 + vertices.size());
+    weights_.rowNames.reserve(shapeRowIndex + 1 + vertices.size());
+    for (int k = 0; k < vertices.size(); ++k) {
+        double sum = 0.0;
+        weightRow row = builder.build(&read[k * influenceCount], &sum);
+        isNormalizedShape = isNormalizedShape && isNormalized(sum, tolerance);
+        rounding.apply(row);
+        weights_.rows.append(row);
+        weights_.rowNames.appendVertex(vertices.at(k));
+    }
+    if (!isNormalizedShape)
+        weights_.rows[shapeRowIndex][0] = kUnnormalizedShapeTag;
+}
+
+// Rows that do not change go on sharing their memory with the snapshot.
+void weightTableModel::roundLoadedRows(wholeListRounding &rounding)
+{
+    for (int r = 0; r < weights_.rows.size(); ++r) {
+        weightRow row = weights_.rows.at(r);
+        rounding.apply(row);
+        if (row != weights_.rows.at(r))
+            weights_.rows[r] = row;
+    }
+}

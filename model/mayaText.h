@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: Apache-2.0
+// Text between Maya and Qt. Node names may hold any character, so both sides meet in UTF-8: a plain
+// conversion takes the text for Latin-1 in the oldest Qt.
+#pragma once
+
+#include <QString>
+
+#include <maya/MString.h>
+
+inline QString textOf(const MString &text)
+{
+    return QString::fromUtf8(text.asUTF8());
+}
+
+inline MString mayaTextOf(const QString &text)
+{
+    MString result;
+    result.setUTF8(text.toUtf8().constData());
+    return result;
+}

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "model/precisionRounding.h"
+
+#include <QtGlobal>
+
+#include <cmath>
+
+namespace
+{
+
+const double kCut = 0.49;
+
+// A residual between this and zero is what adding a row of doubles leaves, not a weight.
+const double kSumNoise = -1e-12;
+
+// 1.1 units of the last place, itself cut as a weight of one more place is.
+double residualMargin(int places)
+{
+    const double unit = 1.0 / std::pow(10.0, places);
+    return weightRounder(places + 1).rounded(unit + unit / 10.0);
+}
+
+} // namespace
+
+weightRounder::weightRounder(int places) : unitsPerWeight_(std::pow(10.0, places)) {}
+
+double weightRounder::rounded(double weight) const
+{
+    if (!(weight > 0.0))
+        return weight;
+    const double units = std::ceil(weight * unitsPerWeight_ - kCut);
+    return units > 0.0 ? units / unitsPerWeight_ : 0.0;
+}
+
+roundedRow weightRounder::roundRow(weightRow &row) const
+{
+    roundedRow result = {-1, 0.0, 0.0};
+    double *cells = row.data();
+    const int entries = static_cast<int>(row.size());
+    for (int entry = 1; entry < entries; ++entry) {
+        if (!(cells[entry] > 0.0))
+            continue;
+        cells[entry] = rounded(cells[entry]);
+        if (cells[entry] > 0.0) {
+            result.lastEntry = entry;
+            result.sumBeforeLast = result.sum;
+            result.sum += cells[entry];
+        }
+    }
+    return result;
+}
+
+double residualBeside(double sumOfOthers)
+{
+    const double residual = 1.0 - sumOfOthers;
+    return residual < 0.0 && residual > kSumNoise ? 0.0 : residual;
+}
+
+void giveResidual(weightRow &row, int entry)
+{
+    double sumOfOthers = 0.0;
+    for (int other = 1; other < row.size(); ++other) {
+        if (other != entry && row.at(other) > 0.0)
+            sumOfOthers += row.at(other);
+    }
+    row[entry] = residualBeside(sumOfOthers);
+}
+
+wholeListRounding::wholeListRounding(int places)
+    : rounder_(places), residualMargin_(residualMargin(places))
+{
+}
+
+void wholeListRounding::apply(weightRow &row)
+{
+    if (!isVertexRow(row))
+        return;
+    if (row.size() < 2) {
+        metRowWithoutColumns_ = true;
+        return;
+    }
+    const roundedRow rounded = rounder_.roundRow(row);
+    if (rounded.lastEntry < 0)
+        metRowWithoutWeight_ = true;
+    if (!metRowWithoutWeight_ && isNormalized(rounded.sum, residualMargin_))
+        row[rounded.lastEntry] = residualBeside(rounded.sumBeforeLast);
+}

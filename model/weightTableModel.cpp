@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "model/weightTableModel.h"
+
+#include <QTableView>
+
+#include "model/tableSelection.h"
+#include "plugin/processState.h"
+#include "plugin/sceneCallbacks.h"
+
+#include <maya/MEventMessage.h>
+#include <maya/MString.h>
+
+namespace
+{
+
+const int kDefaultPrecision = 3;
+const int kDefaultMaxInfluences = 4;
+
+} // namespace
+
+weightTableModel::weightTableModel(QObject *parent)
+    : QAbstractTableModel(parent), previousMaxInfluences_(kDefaultMaxInfluences)
+{
+    settings_.precision = kDefaultPrecision;
+    settings_.maxInfluences = kDefaultMaxInfluences;
+    selectionChangedCallback_ =
+        MEventMessage::addEventCallback("SelectionChanged", onSelectionChanged, this);
+    sceneOpenedCallback_ = MEventMessage::addEventCallback("SceneOpened", onSceneOpened, this);
+}
+
+weightTableModel::~weightTableModel()
+{
+    MMessage::removeCallback(selectionChangedCallback_);
+    MMessage::removeCallback(sceneOpenedCallback_);
+    // The model goes with its window. When Maya quits it deletes the window without unloading the
+    // plug-in, and nobody else would tell.
+    if (activeModel == this) {
+        activeModel = nullptr;
+        activeWindow = nullptr;
+    }
+}
+
+void weightTableModel::setAutoUpdate(bool on)
+{
+    autoUpdate = on;
+}
+
+void weightTableModel::clearWeightList()
+{
+    beginResetModel();
+    weights_ = weightList();
+    weightsBeforeLoad_ = weightList();
+    locks_.clear();
+    endResetModel();
+    // The reset takes selection and current cell from the views; this tells who waits for the
+    // table's layout.
+    emit layoutAboutToBeChanged();
+    emit layoutChanged();
+}
+
+bool weightTableModel::takeIgnoredSelectionChange()
+{
+    const bool ignored = ignoreNextSelectionChange_;
+    ignoreNextSelectionChange_ = false;
+    return ignored;
+}
+
+void weightTableModel::setMaxValue(int maximum)
+{
+    previousMaxInfluences_ = settings_.maxInfluences;
+    settings_.maxInfluences = maximum;
+
+    const QVector<int> rows = wholeRows(viewSelection(), columnCount());
+    for (int i = 0; i < rows.size(); ++i)
+        emit headerDataChanged(Qt::Vertical, rows.at(i), rows.at(i));
+    if (rows.isEmpty() && rowCount() > 0)
+        emit headerDataChanged(Qt::Vertical, 0, rowCount() - 1);
+}
