@@ -4,7 +4,7 @@
 #include <QFile>
 #include <cstdio>
 
-#include "api/application.h"
+#include "api/process.h"
 
 namespace host::app
 {
@@ -22,13 +22,13 @@ void print(const std::string &text, MessageKind kind)
     std::fflush(stream);
 }
 
-bool run(Application &application, const QString &mel, const QString &file = QString())
+bool run(Process &process, const QString &mel, const QString &file = QString())
 {
     mel::RunOptions options;
     options.undo = true;
     options.file = file.toStdString();
-    application.interpreter().run(mel.toStdString(), options);
-    return !application.interpreter().quitRequested;
+    process.interpreter().run(mel.toStdString(), options);
+    return !process.interpreter().quitRequested;
 }
 
 } // namespace
@@ -40,35 +40,35 @@ QString melQuoted(const QString &text)
     return '"' + quoted + '"';
 }
 
-void runScripts(Application &application, const Options &options)
+void runScripts(Process &process, const Options &options)
 {
     for (const QString &command : options.commands) {
-        if (!run(application, command))
+        if (!run(process, command))
             return;
     }
     if (options.script.isEmpty())
         return;
     QFile script(options.script);
     if (!script.open(QIODevice::ReadOnly)) {
-        application.session().output().error(
+        process.session().output().error(
             ("Cannot read the script " + options.script + ": " + script.errorString())
                 .toStdString());
         return;
     }
-    run(application, QString::fromUtf8(script.readAll()), options.script);
+    run(process, QString::fromUtf8(script.readAll()), options.script);
 }
 
-int runBatch(Application &application, const Options &options)
+int runBatch(Process &process, const Options &options)
 {
-    Session &session = application.session();
+    Session &session = process.session();
     session.output().addListener(print);
-    mel::Interpreter &interpreter = application.interpreter();
+    mel::Interpreter &interpreter = process.interpreter();
     if (!options.file.isEmpty())
-        run(application, "file -f -o " + melQuoted(options.file));
+        run(process, "file -f -o " + melQuoted(options.file));
     if (!interpreter.quitRequested)
         runScripts(application, options);
     if (!interpreter.quitRequested && !options.saveAs.isEmpty())
-        run(application,
+        run(process,
             "file -rename " + melQuoted(options.saveAs) + "; file -f -save -type \"mayaAscii\"");
     if (interpreter.exitCode != 0)
         return interpreter.exitCode;

@@ -6,7 +6,7 @@
 
 namespace host
 {
-class Application;
+class Process;
 }
 
 namespace host::app
@@ -14,11 +14,11 @@ namespace host::app
 
 // Prints messages as Maya's batch mode does: "Warning: ...", "Error: ..." on stderr, the rest on
 // stdout. Returns the exit code.
-int runBatch(Application &application, const Options &options);
+int runBatch(Process &process, const Options &options);
 
 // Runs the options' -command and -script texts; stops early when one of them asked to quit. Used by
 // the window as well.
-void runScripts(Application &application, const Options &options);
+void runScripts(Process &process, const Options &options);
 
 // The MEL string literal of a path.
 QString melQuoted(const QString &text);

@@ -4,12 +4,12 @@
 #include <QTimer>
 #include <cstdio>
 
-#include "api/application.h"
+#include "api/process.h"
 #include "app/batch.h"
 #include "app/mainWindow.h"
 #include "app/options.h"
 
-using host::Application;
+using host::Process;
 using host::app::MainWindow;
 using host::app::Options;
 
@@ -29,8 +29,8 @@ int runInBatch(int argumentCount, char **arguments)
     nameApplication();
     const Options options = host::app::readOptions();
     const int exitCode =
-        host::app::runBatch(Application::start(host::Session::Mode::batch), options);
-    Application::end();
+        host::app::runBatch(Process::start(host::Session::Mode::batch, false), options);
+    Process::stop();
     return exitCode;
 }
 
@@ -59,7 +59,7 @@ int runInWindow(int argumentCount, char **arguments)
     nameApplication();
     QApplication::setStyle("Fusion");
     const Options options = host::app::readOptions();
-    Application &maya = Application::start(host::Session::Mode::interactive);
+    Process &maya = Process::start(host::Session::Mode::interactive, false);
     int exitCode = 0;
     {
         MainWindow window(maya);
@@ -74,7 +74,7 @@ int runInWindow(int argumentCount, char **arguments)
         } else if (!maya.interpreter().quitRequested) {
             exitCode = QApplication::exec();
         }
-        Application::end();
+        Process::stop();
     }
     return exitCode;
 }

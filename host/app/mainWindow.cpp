@@ -11,7 +11,7 @@
 #include <QMessageBox>
 #include <QProgressDialog>
 
-#include "api/application.h"
+#include "api/process.h"
 #include "app/batch.h"
 #include "app/outliner.h"
 #include "app/recentFiles.h"
@@ -38,7 +38,7 @@ QString shown(const std::string &text)
 
 } // namespace
 
-MainWindow::MainWindow(Application &application) : application_(application)
+MainWindow::MainWindow(Process &process) : process_(process)
 {
     buildDocks();
     buildFileMenu();
@@ -47,18 +47,18 @@ MainWindow::MainWindow(Application &application) : application_(application)
     connectSession();
     resize(900, 600);
     followSession();
-    application_.setMainWindow(this);
+    process_.mainWindow = this;
     connect(&followTimer_, &QTimer::timeout, this, &MainWindow::followSession);
     followTimer_.start(kFollowInterval);
 }
 
 MainWindow::~MainWindow()
 {
-    Session &session = application_.session();
+    Session &session = process_.session();
     session.progress = nullptr;
     session.output().removeListener(outputListener_);
     session.events().remove(selectionListener_);
-    application_.setMainWindow(nullptr);
+    process_.mainWindow = nullptr;
 }
 
 void MainWindow::buildDocks()
@@ -67,7 +67,7 @@ void MainWindow::buildDocks()
     setCentralWidget(scriptEditor_);
     connect(scriptEditor_, &ScriptEditor::commandEntered, this, &MainWindow::runMel);
 
-    outliner_ = new Outliner(application_.session(), this);
+    outliner_ = new Outliner(process_.session(), this);
     connect(outliner_, &Outliner::selectionPicked, this, &MainWindow::runMel);
     auto *dock = new QDockWidget(tr("Outliner"), this);
     dock->setObjectName("outlinerDock");
@@ -115,7 +115,7 @@ void MainWindow::buildWindowMenu()
 
 void MainWindow::connectSession()
 {
-    Session &session = application_.session();
+    Session &session = process_.session();
     outputListener_ = session.output().addListener(
         [this](const std::string &text, MessageKind kind) { scriptEditor_->show(text, kind); });
     selectionListener_ =
@@ -144,7 +144,8 @@ bool MainWindow::showProgress(std::size_t done, std::size_t total)
 
 void MainWindow::followSession()
 {
-    Session &session = application_.session();
+    process_.runIdleCommands();
+    Session &session = process_.session();
     outliner_->followScene();
     const QString file = shown(session.fileName());
     setWindowTitle((file.isEmpty() ? tr("untitled") : QFileInfo(file).fileName()) + "[*]" +
@@ -157,8 +158,8 @@ void MainWindow::followSession()
     redoAction_->setText(queue.redoCount() == 0 ? tr("&Redo")
                                                 : tr("&Redo ") + shown(queue.redoName()));
     redoAction_->setEnabled(queue.redoCount() > 0);
-    if (application_.interpreter().quitRequested)
-        QCoreApplication::exit(application_.interpreter().exitCode);
+    if (process_.interpreter().quitRequested)
+        QCoreApplication::exit(process_.interpreter().exitCode);
 }
 
 bool MainWindow::tryMel(const QString &mel)
@@ -168,7 +169,7 @@ bool MainWindow::tryMel(const QString &mel)
     options.undo = true;
     options.resultPrefix = true;
     const bool succeeded =
-        application_.interpreter().run(mel.toUtf8().toStdString(), options).succeeded;
+        process_.interpreter().run(mel.toUtf8().toStdString(), options).succeeded;
     followSession();
     return succeeded;
 }
@@ -180,7 +181,7 @@ void MainWindow::runMel(const QString &mel)
 
 bool MainWindow::mayLoseChanges()
 {
-    if (!application_.session().scene().isModified())
+    if (!process_.session().scene().isModified())
         return true;
     const auto answer = QMessageBox::question(
         this, tr("Korvex"), tr("Save the changes to the scene?"),
@@ -198,7 +199,7 @@ void MainWindow::chooseScene()
 {
     if (!mayLoseChanges())
         return;
-    const QString folder = QFileInfo(shown(application_.session().fileName())).path();
+    const QString folder = QFileInfo(shown(process_.session().fileName())).path();
     const QString path = QFileDialog::getOpenFileName(this, tr("Open Scene"), folder, kSceneFilter);
     if (!path.isEmpty())
         openScene(path);
@@ -221,15 +222,15 @@ bool MainWindow::openScene(const QString &path)
 
 bool MainWindow::saveScene()
 {
-    if (application_.session().fileName().empty())
+    if (process_.session().fileName().empty())
         return saveSceneAs();
     return tryMel("file -f -save;");
 }
 
 bool MainWindow::saveSceneAs()
 {
-    QString path = QFileDialog::getSaveFileName(
-        this, tr("Save Scene"), shown(application_.session().fileName()), kSceneFilter);
+    QString path = QFileDialog::getSaveFileName(this, tr("Save Scene"),
+                                                shown(process_.session().fileName()), kSceneFilter);
     if (path.isEmpty())
         return false;
     if (QFileInfo(path).suffix().isEmpty())
@@ -263,7 +264,7 @@ void MainWindow::openWeightEditorOnScene()
 void MainWindow::loadSkinnedMeshes()
 {
     QStringList shapes;
-    for (const NodePtr &node : application_.session().scene().nodes()) {
+    for (const NodePtr &node : process_.session().scene().nodes()) {
         const NodePtr shape = node->isA("skinCluster") ? deformedShape(*node) : nullptr;
         if (shape && shape->isA("mesh"))
             shapes.append(melQuoted(shown(DagPath::first(shape).parent().fullName())));

@@ -11,7 +11,7 @@ class QAction;
 
 namespace host
 {
-class Application;
+class Process;
 }
 
 namespace host::app
@@ -27,7 +27,7 @@ class MainWindow : public QMainWindow
 
 public:
     // Becomes the main window that plug-ins find through the API.
-    explicit MainWindow(Application &application);
+    explicit MainWindow(Process &process);
     ~MainWindow() override;
 
     // True if the scene was opened; otherwise the Script Editor says why.
@@ -52,7 +52,7 @@ private slots:
     void redo();
     void openWeightEditorOnScene();
     void openRecent(const QString &path);
-    // Brings title, actions and Outliner in line with the session.
+    // Runs what waits for an idle moment, then brings title, actions and Outliner in line.
     void followSession();
 
 private:
@@ -66,7 +66,7 @@ private:
     // Runs MEL and tells whether it worked.
     bool tryMel(const QString &mel);
 
-    Application &application_;
+    Process &process_;
     Outliner *outliner_ = nullptr;
     ScriptEditor *scriptEditor_ = nullptr;
     RecentFiles *recentFiles_ = nullptr;
