@@ -66,7 +66,7 @@ int runBatch(Process &process, const Options &options)
     if (!options.file.isEmpty())
         run(process, "file -f -o " + melQuoted(options.file));
     if (!interpreter.quitRequested)
-        runScripts(application, options);
+        runScripts(process, options);
     if (!interpreter.quitRequested && !options.saveAs.isEmpty())
         run(process,
             "file -rename " + melQuoted(options.saveAs) + "; file -f -save -type \"mayaAscii\"");
