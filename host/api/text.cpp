@@ -129,6 +129,17 @@ bool wholeNumber(std::string_view text, double &number)
     return true;
 }
 
+std::string melString(std::string_view text)
+{
+    std::string result = "\"";
+    for (const char character : text) {
+        if (character == '"' || character == '\\')
+            result += '\\';
+        result += character == '\n' ? std::string("\\n") : std::string(1, character);
+    }
+    return result + '"';
+}
+
 std::wstring toWide(std::string_view text)
 {
     std::wstring wide;

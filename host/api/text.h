@@ -25,6 +25,9 @@ bool leadingNumber(std::string_view text, double &number, std::string_view &rest
 // The number that `text` is as a whole, blanks around it allowed.
 bool wholeNumber(std::string_view text, double &number);
 
+// `"text"` as MEL writes a string.
+std::string melString(std::string_view text);
+
 // Between UTF-8 and wide characters. Bytes that are no UTF-8 become U+FFFD, one by one.
 std::wstring toWide(std::string_view text);
 std::string toUtf8(std::wstring_view text);

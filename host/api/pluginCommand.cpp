@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "api/pluginCommand.h"
+
+#include <maya/MArgList.h>
+#include <maya/MPxCommand.h>
+
+#include "api/apiAccess.h"
+#include "api/arguments.h"
+#include "api/process.h"
+#include "api/text.h"
+
+namespace host
+{
+
+namespace
+{
+
+// A command object and what keeps its code loaded.
+class CommandObject
+{
+public:
+    CommandObject(const PluginCommand &registration, const MSyntax &syntax)
+        : plugin_(registration.plugin), command_(static_cast<MPxCommand *>(registration.creator()))
+    {
+        if (!command_)
+            throw Error("Plug-in command '" + registration.name + "' could not be created");
+        ++plugin_->commandObjects;
+        auto &context = ApiAccess::context(*command_);
+        context->syntax = syntax;
+        context->commandString = toMString(registration.name);
+    }
+    ~CommandObject()
+    {
+        command_.reset();
+        --plugin_->commandObjects;
+    }
+    CommandObject(const CommandObject &) = delete;
+    CommandObject &operator=(const CommandObject &) = delete;
+
+    MPxCommand &command() { return *command_; }
+    Plugin &plugin() { return *plugin_; }
+
+private:
+    std::shared_ptr<Plugin> plugin_;
+    std::unique_ptr<MPxCommand> command_;
+};
+
+// While it lives the plug-in's code is running, with a result of its own.
+class Execution
+{
+public:
+    Execution(Process &process, Plugin &plugin) : process_(process), plugin_(plugin)
+    {
+        std::swap(outerResult_, process_.commandResult);
+        ++plugin_.runningCommands;
+    }
+    ~Execution()
+    {
+        --plugin_.runningCommands;
+        process_.commandResult = std::move(outerResult_);
+    }
+    Execution(const Execution &) = delete;
+    Execution &operator=(const Execution &) = delete;
+
+private:
+    Process &process_;
+    Plugin &plugin_;
+    mel::MelValue outerResult_;
+};
+
+MArgList toArgList(const std::vector<mel::Operand> &operands)
+{
+    auto values = std::make_shared<ArgumentValues>();
+    for (const mel::Operand &operand : operands)
+        values->list.push_back(makeArgument(operand.string()));
+    MArgList list;
+    ApiAccess::values(list) = std::move(values);
+    return list;
+}
+
+UndoStep makeStep(Process &process, const std::shared_ptr<CommandObject> &object)
+{
+    const auto run = [&process, object](MStatus (MPxCommand::*replay)()) {
+        const Execution execution(process, object->plugin());
+        return bool((object->command().*replay)());
+    };
+    return {[run] { return run(&MPxCommand::undoIt); }, [run] { return run(&MPxCommand::redoIt); }};
+}
+
+mel::MelValue call(Process &process, const PluginCommand &registration, const MSyntax &syntax,
+                   const std::vector<mel::Operand> &operands)
+{
+    const MArgList arguments = toArgList(operands);
+    if (registration.createSyntax) // refuses bad arguments before there is an object
+        ParsedArguments(tableOf(syntax), valuesOf(arguments), selectedNames());
+    const auto object = std::make_shared<CommandObject>(registration, syntax);
+    const Execution execution(process, object->plugin());
+    if (!object->command().doIt(arguments))
+        throw Error(std::string()); // the command has said why, or wants nothing said
+    UndoQueue &queue = process.session().undo();
+    if (object->command().isUndoable() && queue.isRecording())
+        queue.record(makeStep(process, object));
+    return process.commandResult;
+}
+
+} // namespace
+
+mel::Command makePluginCommand(Process &process, const PluginCommand &registration)
+{
+    mel::Command command;
+    command.name = registration.name;
+    command.takesRawArguments = true;
+    command.isFromPlugin = true;
+    const MSyntax syntax = registration.createSyntax ? registration.createSyntax() : MSyntax();
+    command.run = [&process, registration, syntax](mel::Context &,
+                                                   const mel::Arguments &arguments) {
+        return call(process, registration, syntax, arguments.objects);
+    };
+    return command;
+}
+
+} // namespace host
