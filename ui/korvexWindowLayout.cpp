@@ -3,6 +3,9 @@
 #include "ui/korvexWindow.h"
 
 #include <QAction>
+#include <QFont>
+#include <QFontInfo>
+#include <QFontMetrics>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QMenu>
@@ -22,10 +25,23 @@ const int kRowHeight = 21;
 const int kColumnWidth = 40;
 const int kNarrowestColumn = 20;
 const int kButtonWidth = 140;
+const int kCellMargins = 8; // both sides together, as item views leave them
+const int kSmallestFont = 7;
 const int kMargin = 15;
 const int kSpacing = 5;
 const char kCheckedButtonStyle[] =
     "QPushButton:checked { background-color: lightGray; color: black}";
+
+// The font, made smaller until a weight with three decimals fits into a column.
+QFont weightFont(QFont font)
+{
+    int height = QFontInfo(font).pixelSize();
+    const QString widest = QLatin1String("0.000");
+    while (height > kSmallestFont &&
+           QFontMetrics(font).boundingRect(widest).width() > kColumnWidth - kCellMargins)
+        font.setPixelSize(--height);
+    return font;
+}
 
 enum buttonKind { kPushButton, kCheckButton };
 
@@ -60,6 +76,7 @@ void korvexWindow::buildTable()
     model_ = new weightTableModel(this);
     tableView_->setModel(model_);
     model_->setView(tableView_);
+    tableView_->setFont(weightFont(tableView_->font()));
     tableView_->setWordWrap(false);
     tableView_->verticalHeader()->setMinimumSectionSize(kRowHeight);
     tableView_->verticalHeader()->setDefaultSectionSize(kRowHeight);

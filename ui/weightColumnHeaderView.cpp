@@ -15,7 +15,8 @@ void weightColumnHeaderView::paintSection(QPainter *painter, const QRect &rect,
                                           int logicalIndex) const
 {
     painter->save();
-    painter->translate(QPointF(rect.left(), rect.bottom()));
+    // To the lower edge of the section: bottom() is the row of pixels above it.
+    painter->translate(QPointF(rect.left(), rect.bottom() + 1));
     painter->rotate(-90.0);
     const QRect lyingDown(QPoint(0, 0),
                           QPoint(rect.bottom() - rect.top(), rect.right() - rect.left()));
