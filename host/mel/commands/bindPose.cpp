@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "mel/commands/bindPose.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdio>
+
+#include "scene/transform.h"
+
+namespace host::mel
+{
+
+namespace
+{
+
+constexpr double kRadiansPerDegree = 3.14159265358979323846 / 180.0;
+
+std::array<double, 3> triple(const Node &node, const char *attribute)
+{
+    std::array<double, 3> numbers = {};
+    if (!node.findAttribute(attribute))
+        return numbers;
+    const Plug plug = node.plug(attribute);
+    for (std::size_t i = 0; i < 3; ++i)
+        numbers[i] = evaluateNumber(plug.child(plug.attribute->children[i]));
+    return numbers;
+}
+
+// x y z w of the rotation that turns about x, then y, then z.
+std::array<double, 4> quaternionOf(const std::array<double, 3> &degrees)
+{
+    double s[3];
+    double c[3];
+    for (std::size_t i = 0; i < 3; ++i) {
+        s[i] = std::sin(degrees[i] * kRadiansPerDegree / 2);
+        c[i] = std::cos(degrees[i] * kRadiansPerDegree / 2);
+    }
+    return {s[0] * c[1] * c[2] - c[0] * s[1] * s[2], c[0] * s[1] * c[2] + s[0] * c[1] * s[2],
+            c[0] * c[1] * s[2] - s[0] * s[1] * c[2], c[0] * c[1] * c[2] + s[0] * s[1] * s[2]};
+}
+
+// A transform's parts as one matrix value, in the order in which Maya ASCII has them.
+class XformText
+{
+public:
+    template <typename Numbers>
+    void add(const Numbers &numbers)
+    {
+        for (const double number : numbers)
+            add(number);
+    }
+    void add(double number)
+    {
+        char digits[32];
+        std::snprintf(digits, sizeof digits, " %.17g", number);
+        text_ += digits;
+    }
+    OpaqueValue value(bool compensatesScale) const
+    {
+        return {"matrix", text_ + (compensatesScale ? " yes" : " no")};
+    }
+
+private:
+    std::string text_ = "\"xform\"";
+};
+
+OpaqueValue xformOf(const Node &transform)
+{
+    const bool isJoint = transform.isA("joint");
+    XformText text;
+    text.add(triple(transform, "scale"));
+    std::array<double, 3> rotation = triple(transform, "rotate");
+    for (double &angle : rotation)
+        angle *= kRadiansPerDegree;
+    text.add(rotation);
+    text.add(evaluateNumber(transform.plug("rotateOrder")));
+    for (const char *attribute : {"translate", "shear", "scalePivot", "scalePivotTranslate",
+                                  "rotatePivot", "rotatePivotTranslate"})
+        text.add(triple(transform, attribute));
+    text.add(quaternionOf(triple(transform, "rotateAxis")));
+    text.add(quaternionOf(triple(transform, "jointOrient")));
+    text.add(isJoint ? triple(transform, "inverseScale") : std::array<double, 3>{1, 1, 1});
+    return text.value(!isJoint || evaluateNumber(transform.plug("segmentScaleCompensate")) != 0);
+}
+
+// Index of `node` among the pose's members, -1 if it is none.
+int memberIndex(const Node &pose, const Node &node)
+{
+    for (const Connection &user : node.destinations(node.plug("message"))) {
+        if (user.node == &pose && user.attribute->longName == "members")
+            return user.indices[0];
+    }
+    return -1;
+}
+
+NodePtr poseOf(const Node &influence)
+{
+    for (const Connection &user : influence.destinations(influence.plug("message"))) {
+        if (user.node->isA("dagPose") && user.attribute->longName == "members" &&
+            evaluateNumber(user.node->plug("bindPose")) != 0)
+            return user.node->shared_from_this();
+    }
+    return {};
+}
+
+void storeWorldMatrix(Scene &scene, const NodePtr &pose, const DagPath &path, int index)
+{
+    const Plug matrix = pose->plug("worldMatrix").element(index);
+    const Matrix value = worldMatrix(path);
+    if (!path.node()->isA("joint")) {
+        scene.setValue(matrix, value);
+        return;
+    }
+    scene.setValue(path.node()->plug("bindPose"), value);
+    scene.connect(path.node()->plug("bindPose"), matrix);
+}
+
+// Takes a transform into the pose, after those above it; returns its index. Transforms that are no
+// influences are `global`.
+int addMember(Scene &scene, const NodePtr &pose, const DagPath &path, bool isInfluence)
+{
+    const int known = memberIndex(*pose, *path.node());
+    if (known >= 0)
+        return known;
+    const DagPath above = path.parent();
+    const int parent = above.isNull() ? -1 : addMember(scene, pose, above, false);
+
+    const int index = scene.nextAvailable(pose->plug("members"));
+    scene.connect(path.node()->plug("message"), pose->plug("members").element(index));
+    scene.connect(parent < 0 ? pose->plug("world") : pose->plug("members").element(parent),
+                  pose->plug("parents").element(index));
+    scene.setValue(pose->plug("xformMatrix").element(index), xformOf(*path.node()));
+    storeWorldMatrix(scene, pose, path, index);
+    if (!isInfluence && !path.node()->isA("joint"))
+        scene.setValue(pose->plug("global").element(index), 1.0);
+    return index;
+}
+
+} // namespace
+
+NodePtr provideBindPose(Scene &scene, const std::vector<DagPath> &influences)
+{
+    if (influences.empty())
+        return {};
+    NodePtr pose;
+    for (const DagPath &influence : influences) {
+        if (!pose)
+            pose = poseOf(*influence.node());
+    }
+    if (!pose) {
+        pose = scene.createNode("dagPose", "bindPose#");
+        scene.setValue(pose->plug("bindPose"), 1.0);
+    }
+    for (const DagPath &influence : influences)
+        addMember(scene, pose, influence, true);
+    return pose;
+}
+
+} // namespace host::mel
