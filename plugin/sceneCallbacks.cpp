@@ -6,6 +6,7 @@
 #include "model/weightTableModel.h"
 #include "plugin/processState.h"
 
+#include <maya/MFileIO.h>
 #include <maya/MGlobal.h>
 
 void onSelectionChanged(void *model)
@@ -14,6 +15,9 @@ void onSelectionChanged(void *model)
     if (table.takeIgnoredSelectionChange())
         return;
     if (table.getSkinPaintSmoothMode() || selectionSetByEditor)
+        return;
+    // The scene of the table is going, the next one is not there yet: neither may be asked.
+    if (MFileIO::isReadingFile() || MFileIO::isNewingFile())
         return;
     if (autoUpdate)
         table.refreshSkinClusterData();

@@ -112,9 +112,9 @@ TEST(wholeListRounding, stopsResidualsAtARowWithoutWeight)
 TEST(wholeListRounding, passesOverARowWithoutColumns)
 {
     wholeListRounding rounding(1);
-    weightRow short_ = {0.0};
+    weightRow withoutColumns = {0.0};
     weightRow after = {0.0, 0.25, 0.25, 0.5};
-    rounding.apply(short_);
+    rounding.apply(withoutColumns);
     rounding.apply(after);
     EXPECT_TRUE(rounding.metRowWithoutColumns());
     EXPECT_FALSE(rounding.metRowWithoutWeight());
