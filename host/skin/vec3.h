@@ -19,6 +19,16 @@ inline Vec3 operator-(const Vec3 &a, const Vec3 &b)
     return {a.x - b.x, a.y - b.y, a.z - b.z};
 }
 
+inline Vec3 operator+(const Vec3 &a, const Vec3 &b)
+{
+    return {a.x + b.x, a.y + b.y, a.z + b.z};
+}
+
+inline Vec3 operator*(const Vec3 &a, double factor)
+{
+    return {a.x * factor, a.y * factor, a.z * factor};
+}
+
 inline double dot(const Vec3 &a, const Vec3 &b)
 {
     return a.x * b.x + a.y * b.y + a.z * b.z;
