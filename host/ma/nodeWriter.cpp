@@ -48,6 +48,21 @@ constexpr BoundFlag kBounds[] = {
     {"-smx", "-softMaxValue", &Attribute::softMaximum},
 };
 
+// Every node of the host has the list of aliases; in Maya it is added to nodes that need one.
+constexpr const char *kAliases = "attributeAliasList";
+constexpr const char *kAddAliasesShort =
+    "\taddAttr -ci true -h true -sn \"aal\" -ln \"attributeAliasList\" -dt \"attributeAlias\";";
+constexpr const char *kAddAliasesLong =
+    "\taddAttr -cachedInternally true -hidden true -shortName \"aal\" "
+    "-longName \"attributeAliasList\" -dataType \"attributeAlias\";";
+
+bool hasAliases(const NodePtr &node)
+{
+    const AttributePtr aliases = node->findAttribute(kAliases);
+    return aliases && !aliases->isDynamic && !aliases->isLearned() &&
+           node->datum(Plug(node, aliases));
+}
+
 bool isDataKind(const Attribute &attribute)
 {
     switch (attribute.kind) {
@@ -100,6 +115,8 @@ void NodeWriter::writeDefaultNode(const NodePtr &node)
 
 void NodeWriter::writeBlock(const NodePtr &node)
 {
+    if (hasAliases(node))
+        out_.line(style_.flags(kAddAliasesShort, kAddAliasesLong));
     for (const AttributePtr &attribute : node->ownAttributes()) {
         if (attribute->isDynamic)
             writeAddAttr(*attribute);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ma/plugText.h"
 
+#include <algorithm>
+
 #include "scene/dagPath.h"
 #include "scene/plugAccess.h"
 #include "scene/scene.h"
@@ -56,6 +58,22 @@ std::string parentText(const NodePtr &node)
 {
     return node->scene()->nodesNamed(node->name()).size() == 1 ? node->name()
                                                                : DagPath::first(node).fullName();
+}
+
+bool isWrittenBefore(const PlugKey &first, const PlugKey &second)
+{
+    const AttributeChain ofFirst(*first.attribute);
+    const AttributeChain ofSecond(*second.attribute);
+    if (!ofFirst[0]->isLearned() || !ofSecond[0]->isLearned())
+        return ofFirst[0]->isLearned() == ofSecond[0]->isLearned() ? first < second
+                                                                   : ofSecond[0]->isLearned();
+    for (unsigned i = 0; i < std::min(ofFirst.size(), ofSecond.size()); ++i) {
+        if (ofFirst[i] != ofSecond[i])
+            return ofFirst[i]->longName < ofSecond[i]->longName;
+        if (first.indices[i] != second.indices[i])
+            return first.indices[i] < second.indices[i];
+    }
+    return ofFirst.size() < ofSecond.size();
 }
 
 std::string plugPath(const Plug &plug, bool longNames)

@@ -32,4 +32,9 @@ std::string plugPath(const Plug &plug, bool longNames);
 // left out; the path of the node says which instance it is.
 std::string plugName(const Plug &plug, bool longNames);
 
+// The order in which the connections into one node are written. It is that of the attributes, but
+// learned ones go by their names: the order in which a file brought them would change from one
+// saving to the next.
+bool isWrittenBefore(const PlugKey &first, const PlugKey &second);
+
 } // namespace host::ma

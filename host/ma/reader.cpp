@@ -2,7 +2,7 @@
 #include "ma/reader.h"
 
 #include <algorithm>
-#include <array>
+#include <cctype>
 
 #include "ma/maFile.h"
 #include "scene/error.h"
@@ -21,6 +21,10 @@ constexpr std::string_view kMayFail[] = {
     "addAttr",  "applyMetadata", "connectAttr", "dataStructure", "file",     "fileInfo",
     "lockNode", "instanceable",  "currentUnit", "relationship",  "requires",
 };
+
+// Commands about the node of the createNode or select before them.
+constexpr std::string_view kAboutCurrentNode[] = {"addAttr", "instanceable", "lockNode", "rename",
+                                                  "setAttr"};
 
 template <std::size_t N>
 bool contains(const std::string_view (&list)[N], std::string_view word)
@@ -79,6 +83,7 @@ Reader::Reader(mel::Interpreter &interpreter, const std::string &path, Scene &ta
 void Reader::run()
 {
     const ReadingMark mark(interpreter_.session());
+    target_.facts.mayaVersion = file_.version();
     StatementText statement;
     while (statements_.next(statement)) {
         runStatement(statement);
@@ -109,6 +114,15 @@ void Reader::runStatement(const StatementText &text)
 
 void Reader::call(const mel::Statement &statement)
 {
+    checkArguments(statement);
+    if (statement.command == "select")
+        selectNode(statement);
+    else
+        callCommand(statement);
+}
+
+void Reader::callCommand(const mel::Statement &statement)
+{
     const std::string name(statement.command);
     const mel::Command *command = interpreter_.commands().find(name);
     if (!command || !command->isFileStatement) {
@@ -116,7 +130,8 @@ void Reader::call(const mel::Statement &statement)
                       "\"" + name + "\" is no command of a scene file; it was skipped");
         return;
     }
-    checkArguments(statement);
+    if (contains(kAboutCurrentNode, name))
+        requireCurrentNode(statement);
     interpreter_.call(context_, statement);
     if (name == "createNode") {
         checkGivenName(statement);
@@ -124,6 +139,32 @@ void Reader::call(const mel::Statement &statement)
     } else if (name == "file") {
         noteReference(statement);
     }
+}
+
+// "select -ne :time1;" says which node the next statements are about. The selection stays as it is.
+void Reader::selectNode(const mel::Statement &statement)
+{
+    const std::string name =
+        statement.arguments.empty() ? "" : std::string(statement.arguments.back().text);
+    currentNode_ = target_.findNode(name);
+    if (currentNode_)
+        return;
+    const bool isLegal = std::all_of(name.begin(), name.end(), [](unsigned char c) {
+        return std::isalnum(c) || c == '_' || c == ':' || c >= 0x80;
+    });
+    if (!isLegal || name.empty() || name.back() == ':')
+        throwNoSuchObject(name);
+    currentNode_ = target_.defaultNode(name);
+}
+
+// Without a node to be about, these would turn to what is selected in the session.
+void Reader::requireCurrentNode(const mel::Statement &statement) const
+{
+    if (!currentNode_)
+        throwFileError(file_.path(), statement.line,
+                       "There is no node yet that this statement could be about");
+    if (statement.command == "rename" && !hasFlag(statement, "-uid", "-uuid"))
+        throwFileError(file_.path(), statement.line, "A file can not rename nodes");
 }
 
 // The text of a file must not reach commands that it may not call.

@@ -2,7 +2,6 @@
 // Runs the statements of one file against a scene.
 #pragma once
 
-#include <set>
 #include <string>
 #include <string_view>
 
@@ -29,6 +28,9 @@ public:
 private:
     void runStatement(const StatementText &text);
     void call(const mel::Statement &statement);
+    void callCommand(const mel::Statement &statement);
+    void selectNode(const mel::Statement &statement);
+    void requireCurrentNode(const mel::Statement &statement) const;
     void checkArguments(const mel::Statement &statement) const;
     void checkGivenName(const mel::Statement &statement) const;
     void noteReference(const mel::Statement &statement);

@@ -175,7 +175,11 @@ void SceneWriter::writeConnections()
 void SceneWriter::writeConnectionsInto(const NodePtr &node)
 {
     const FlagNames &flags = style_.flags;
-    for (const auto &[key, connection] : node->sources()) {
+    std::vector<std::pair<PlugKey, Connection>> sources(node->sources().begin(),
+                                                        node->sources().end());
+    std::sort(sources.begin(), sources.end(),
+              [](const auto &a, const auto &b) { return isWrittenBefore(a.first, b.first); });
+    for (const auto &[key, connection] : sources) {
         Plug destination = node->plugOf(key);
         const bool takesNext = destination.isElement() && !destination.attribute->indexMatters;
         if (takesNext)

@@ -67,17 +67,18 @@ std::size_t pieceOf(std::string_view text)
     return cut;
 }
 
-// The length of the word or quoted string at the beginning of `text`.
+// Where the value at the beginning of `text` ends: at a blank outside quotes.
 std::size_t valueLength(std::string_view text)
 {
-    if (text.front() != '"') {
-        const std::size_t blank = text.find(' ');
-        return blank == std::string_view::npos ? text.size() : blank;
+    bool isInQuotes = false;
+    std::size_t at = 0;
+    for (; at < text.size() && (isInQuotes || text[at] != ' '); ++at) {
+        if (text[at] == '"')
+            isInQuotes = !isInQuotes;
+        else if (isInQuotes && text[at] == '\\')
+            ++at;
     }
-    std::size_t at = 1;
-    while (at < text.size() && text[at] != '"')
-        at += text[at] == '\\' ? 2 : 1;
-    return std::min(at + 1, text.size());
+    return std::min(at, text.size());
 }
 
 } // namespace

@@ -40,6 +40,13 @@ void writeNumber(StatementWriter &out, const Attribute &attribute, double value)
         out.real(value);
 }
 
+// Arrays of tuples of a mesh whose values Maya writes without -type.
+bool goesWithoutType(const Attribute &attribute)
+{
+    constexpr std::string_view kNames[] = {"vrts", "edge", "uvSetPoints", "colorSetPoints"};
+    return std::find(std::begin(kNames), std::end(kNames), attribute.longName) != std::end(kNames);
+}
+
 std::size_t numbersPerEntry(const std::string &type)
 {
     return type == "pointArray" ? 4 : type == "vectorArray" ? 3 : 1;
@@ -98,8 +105,10 @@ bool isFullTuple(const Attribute &attribute, const Datum &datum)
 } // namespace
 
 ValueWriter::ValueWriter(StatementWriter &out, const FileStyle &style, const NodePtr &node)
-    : out_(out), style_(style), node_(node), states_(node->states())
+    : out_(out), style_(style), node_(node)
 {
+    for (const auto &entry : node->states())
+        states_[AttributeChain(*entry.first.attribute)[0]].insert(entry);
     for (const auto &entry : node->sources())
         connected_.insert(entry.first.attribute);
     for (const auto &entry : node->allDestinations())
@@ -108,14 +117,24 @@ ValueWriter::ValueWriter(StatementWriter &out, const FileStyle &style, const Nod
 
 void ValueWriter::writeAll()
 {
-    for (const AttributePtr &attribute : node_->attributes()) {
-        if (!attribute->isComputed && attribute->isStorable)
-            writeAttribute(attribute);
+    for (const AttributePtr &attribute : node_->type().attributes)
+        writeAttribute(attribute);
+    for (const bool isLearned : {true, false}) {
+        for (const AttributePtr &attribute : node_->ownAttributes()) {
+            if (attribute->isLearned() == isLearned)
+                writeAttribute(attribute);
+        }
     }
-    writeStates();
 }
 
 void ValueWriter::writeAttribute(const AttributePtr &attribute)
+{
+    if (!attribute->isComputed && attribute->isStorable)
+        writeStored(attribute);
+    writeStates(*attribute);
+}
+
+void ValueWriter::writeStored(const AttributePtr &attribute)
 {
     const Plug plug(node_, attribute);
     if (isWeightList(plug)) {
@@ -171,7 +190,7 @@ void ValueWriter::writeRun(const Plug &array, int first, const double *numbers,
         const std::size_t count = std::min(most, elements - done);
         const int from = first + int(done);
         begin(array, rangeText(from, from + int(count) - 1));
-        if (attribute.isCompound())
+        if (attribute.isCompound() && !goesWithoutType(attribute))
             out_.flagQuoted("-type", attribute.typeName);
         for (std::size_t i = 0; i < count * tuple; ++i)
             writeNumber(out_, attribute.isCompound() ? *attribute.children[i % tuple] : attribute,
@@ -246,37 +265,47 @@ void ValueWriter::writeSize(const Plug &array, std::size_t size)
     begin(array).end();
 }
 
-void ValueWriter::writeStates()
+void ValueWriter::writeStates(const Attribute &top)
 {
-    while (!states_.empty())
-        begin(node_->plugOf(states_.begin()->first)).end();
+    const auto found = states_.find(&top);
+    if (found == states_.end())
+        return;
+    const States left = found->second; // begin() takes them away
+    for (const auto &entry : left)
+        begin(node_->plugOf(entry.first)).end();
+}
+
+PlugState ValueWriter::takeState(const Plug &plug)
+{
+    const auto states = states_.find(AttributeChain(*plug.attribute)[0]);
+    if (states == states_.end())
+        return PlugState();
+    const auto found = states->second.find(PlugKey(plug));
+    if (found == states->second.end())
+        return PlugState();
+    const PlugState state = found->second;
+    states->second.erase(found);
+    return state;
 }
 
 StatementWriter &ValueWriter::begin(const Plug &plug, const std::string &range)
 {
     const FlagNames &flags = style_.flags;
-    const auto onOff = [this](const char *flag, bool isOn) {
-        out_.flag(flag, isOn ? "on" : "off");
-    };
     out_.begin("setAttr", StatementWriter::Place::insideNode);
     if (pendingSize_ > 0)
         out_.flag(flags("-s", "-size"), std::to_string(std::exchange(pendingSize_, 0)));
     if (pendingCapacity_ > 0)
         out_.flag(flags("-ch", "-capacityHint"),
                   std::to_string(std::exchange(pendingCapacity_, 0)));
-    const auto found = range.empty() ? states_.find(PlugKey(plug)) : states_.end();
-    if (found != states_.end()) {
-        const PlugState state = found->second;
-        states_.erase(found);
-        if (state.isAltered)
-            out_.word(flags("-av", "-alteredValue"));
-        if (state.isLocked)
-            onOff(flags("-l", "-lock"), true);
-        if (state.isKeyable)
-            onOff(flags("-k", "-keyable"), *state.isKeyable);
-        if (state.isChannelBox)
-            onOff(flags("-cb", "-channelBox"), *state.isChannelBox);
-    }
+    const PlugState state = range.empty() ? takeState(plug) : PlugState();
+    if (state.isAltered)
+        out_.word(flags("-av", "-alteredValue"));
+    if (state.isLocked)
+        out_.flag(flags("-l", "-lock"), "on");
+    if (state.isKeyable)
+        out_.flag(flags("-k", "-keyable"), *state.isKeyable ? "on" : "off");
+    if (state.isChannelBox)
+        out_.flag(flags("-cb", "-channelBox"), *state.isChannelBox ? "on" : "off");
     const std::string path = plugPath(plug, flags.areLong);
     return out_.quoted('.' + path + (range.empty() ? "" : '[' + range + ']'));
 }

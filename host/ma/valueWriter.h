@@ -35,12 +35,16 @@ class ValueWriter
 public:
     ValueWriter(StatementWriter &out, const FileStyle &style, const NodePtr &node);
 
-    // Values with their states, in the node's attribute order, then the states of plugs that have
-    // no value.
+    // Declared attributes, then learned ones in the order in which the file had them, then dynamic
+    // ones; after the values of each the states of its plugs that have no value.
     void writeAll();
 
 private:
+    using States = std::map<PlugKey, PlugState>;
+
     void writeAttribute(const AttributePtr &attribute);
+    void writeStored(const AttributePtr &attribute);
+    PlugState takeState(const Plug &plug);
     void writeArray(const Plug &array, const Datum &datum);
     void writeNumbers(const Plug &array, const PackedNumbers &numbers);
     void writeRun(const Plug &array, int first, const double *numbers, std::size_t elements);
@@ -49,7 +53,7 @@ private:
     void writeTuple(const Plug &plug, const Datum &datum);
     void writeLeaf(const Plug &plug, const Datum &datum);
     void writeSize(const Plug &array, std::size_t size);
-    void writeStates();
+    void writeStates(const Attribute &top);
 
     // "setAttr [-s N] [states] ".path"", the plug's state being done with then.
     StatementWriter &begin(const Plug &plug, const std::string &range = {});
@@ -60,10 +64,10 @@ private:
     StatementWriter &out_;
     const FileStyle &style_;
     NodePtr node_;
-    std::map<PlugKey, PlugState> states_;   // still to be written
-    std::set<const Attribute *> connected_; // attributes with a connection at some plug
-    std::size_t pendingSize_ = 0;           // for -s of the next statement; 0: none
-    std::size_t pendingCapacity_ = 0;       // the same for -ch
+    std::map<const Attribute *, States> states_; // still to be written, by top-level attribute
+    std::set<const Attribute *> connected_;      // attributes with a connection at some plug
+    std::size_t pendingSize_ = 0;                // for -s of the next statement; 0: none
+    std::size_t pendingCapacity_ = 0;            // the same for -ch
 };
 
 } // namespace host::ma
