@@ -86,7 +86,7 @@ inverseScale is double3 default=1
 preferredAngle pa double3
 drawLabel dl bool
 drawStyle ds enum enum=Bone:MultichildAsBox:None:Joint
-radius radi float default=1
+radius radi double default=1
 bindPose bps matrix
 
 type shape : dagNode
@@ -108,13 +108,14 @@ normals n float3[] names=normalx/nx,normaly/ny,normalz/nz
 uvSet uvst compound[] {
   uvSetName uvsn string
   uvSetPoints uvsp float2[] names=uvSetPointsU/uvpu,uvSetPointsV/uvpv
+  uvSetTweakLocation uvtw message
 }
 currentUVSet cuvs string
 colorSet clst compound[] {
   colorName clsn string
   clamped clam bool
   representation rprt enum
-  colorSetPoints clsp short[]
+  colorSetPoints clsp double4[] names=colorSetPointsR/clpr,colorSetPointsG/clpg,colorSetPointsB/clpb,colorSetPointsA/clpa
 }
 currentColorSet ccls string
 displayColorChannel dcc string
@@ -322,7 +323,7 @@ outColor oc float3 computed names=outColorR/ocr,outColorG/ocg,outColorB/ocb
 type materialInfo : node
 shadingGroup sg message
 material m message
-texture t message[]
+texture t message[] unindexed
 
 type partition : node
 sets st message[] unindexed
