@@ -13,7 +13,7 @@ std::map<int, std::vector<double>>::iterator PackedNumbers::runOf(int index)
         return runs_.end();
     --run;
     const int length = int(run->second.size() / tupleSize_);
-    return index < run->first + length ? run : runs_.end();
+    return index - run->first < length ? run : runs_.end();
 }
 
 const double *PackedNumbers::find(int index) const
@@ -42,7 +42,7 @@ void PackedNumbers::setRun(int first, const double *numbers, std::size_t element
     if (run != runs_.begin()) {
         const auto before = std::prev(run);
         const int length = int(before->second.size() / tupleSize_);
-        if (first <= before->first + length)
+        if (first - before->first <= length)
             run = before; // overwrites or continues this run
         else
             run = runs_.emplace(first, std::vector<double>()).first;
@@ -57,7 +57,7 @@ void PackedNumbers::setRun(int first, const double *numbers, std::size_t element
 
     // Runs that the new one reaches become part of it.
     auto next = std::next(run);
-    while (next != runs_.end() && next->first <= run->first + int(values.size() / tupleSize_)) {
+    while (next != runs_.end() && next->first - run->first <= int(values.size() / tupleSize_)) {
         const std::size_t covered =
             values.size() - std::size_t(next->first - run->first) * tupleSize_;
         elementCount_ -= next->second.size() / tupleSize_;
@@ -90,7 +90,7 @@ int PackedNumbers::highestIndex() const
     if (runs_.empty())
         return -1;
     const auto &last = *runs_.rbegin();
-    return last.first + int(last.second.size() / tupleSize_) - 1;
+    return last.first + (int(last.second.size() / tupleSize_) - 1);
 }
 
 std::vector<int> PackedNumbers::indices() const
