@@ -116,18 +116,20 @@ Value derivedValue(const Plug &plug)
 // Chains of connections may be circular; Maya warns about that, and a value is still wanted.
 constexpr int kMaxConnectionChain = 200;
 
-Value evaluate(const Plug &plug, int chain)
+// Derived values are matrices, and no number. They are not even computed where a number is wanted:
+// they may depend on the very plug that they feed.
+Value evaluate(const Plug &plug, bool wantsNumber, int chain)
 {
     if (chain < kMaxConnectionChain) {
         const Plug source = sourceFor(plug);
         if (!source.isNull()) {
-            const Value value = evaluate(source, chain + 1);
+            const Value value = evaluate(source, wantsNumber, chain + 1);
             if (!std::holds_alternative<std::monostate>(value))
                 return value;
         }
     }
     if (plug.attribute->isComputed)
-        return derivedValue(plug);
+        return wantsNumber ? Value() : derivedValue(plug);
     return plug.node->storedValue(plug);
 }
 
@@ -207,7 +209,7 @@ bool isSettable(const Plug &plug)
 
 Value evaluate(const Plug &plug)
 {
-    return evaluate(plug, 0);
+    return evaluate(plug, plug.attribute->isNumber(), 0);
 }
 
 double evaluateNumber(const Plug &plug)
