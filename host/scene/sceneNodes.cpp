@@ -48,6 +48,19 @@ unsigned depthOf(const Node *node)
     return depth;
 }
 
+// Whatever goes with `node` must be free to go: all is deleted or nothing.
+void refuseToDelete(const Node &node)
+{
+    if (node.isDefault() || node.isShared())
+        throw Error("Can not delete a default node: " + node.uniqueName());
+    if (node.isLocked())
+        throw Error("Can not delete a locked node: " + node.uniqueName());
+    for (const NodePtr &child : node.children()) {
+        if (child->parents().size() == 1)
+            refuseToDelete(*child);
+    }
+}
+
 template <typename List, typename Item>
 void insertAt(List &list, std::size_t place, Item &&item)
 {
@@ -192,10 +205,7 @@ NodePtr Scene::defaultNode(std::string_view name)
 
 void Scene::deleteNode(const NodePtr &node)
 {
-    if (node->isDefault() || node->isShared())
-        throw Error("Can not delete a default node: " + node->uniqueName());
-    if (node->isLocked())
-        throw Error("Can not delete a locked node: " + node->uniqueName());
+    refuseToDelete(*node);
     const std::vector<NodePtr> children = node->children_;
     for (const NodePtr &child : children) {
         if (child->parents_.size() > 1)
