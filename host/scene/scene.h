@@ -94,6 +94,7 @@ public:
     // --- Attributes and values ----------------------------------------------------------------
     // A dynamic attribute, with its children. Refused: a name that is taken, a locked node.
     void addAttribute(const NodePtr &node, const AttributePtr &attribute);
+    // With its values, connections and states.
     void removeAttribute(const NodePtr &node, const AttributePtr &attribute);
     // Sets a complete leaf plug. Checks nothing but the shape: locks and ranges are the caller's,
     // see isSettable(). Integers and floats are rounded to their kind.

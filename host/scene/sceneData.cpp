@@ -73,9 +73,9 @@ struct SceneEdit {
         return *datum.packed;
     }
 
-    static void addOwn(Node &node, const AttributePtr &attribute)
+    static void addOwn(Node &node, const AttributePtr &attribute, std::size_t place)
     {
-        node.ownAttributes_.push_back(attribute);
+        node.ownAttributes_.insert(node.ownAttributes_.begin() + long(place), attribute);
         enterOwnNames(node, attribute);
     }
 
@@ -136,6 +136,40 @@ void refuseTakenNames(const Node &node, const Attribute &attribute)
         refuseTakenNames(node, *child);
 }
 
+bool isBelow(const Attribute *attribute, const Attribute &top)
+{
+    while (attribute && attribute != &top)
+        attribute = attribute->parent;
+    return attribute != nullptr;
+}
+
+// Source and destination of each connection of the attribute and its children.
+std::vector<std::pair<Plug, Plug>> connectionsBelow(const Node &node, const Attribute &top)
+{
+    std::vector<std::pair<Plug, Plug>> connections;
+    for (const auto &[key, source] : node.sources()) {
+        if (isBelow(key.attribute, top))
+            connections.emplace_back(source.plug(), node.plugOf(key));
+    }
+    for (const auto &[key, ends] : node.allDestinations()) {
+        for (const Connection &end : ends) {
+            if (isBelow(key.attribute, top))
+                connections.emplace_back(node.plugOf(key), end.plug());
+        }
+    }
+    return connections;
+}
+
+std::vector<Plug> plugsWithStateBelow(const Node &node, const Attribute &top)
+{
+    std::vector<Plug> plugs;
+    for (const auto &entry : node.states()) {
+        if (isBelow(entry.first.attribute, top))
+            plugs.push_back(node.plugOf(entry.first));
+    }
+    return plugs;
+}
+
 } // namespace
 
 void Scene::addAttribute(const NodePtr &node, const AttributePtr &attribute)
@@ -144,19 +178,28 @@ void Scene::addAttribute(const NodePtr &node, const AttributePtr &attribute)
         throw Error("Can not add attributes to the locked node '" + node->uniqueName() + "'.");
     refuseTakenNames(*node, *attribute);
     SceneEdit::number(*node, attribute);
-    perform([node, attribute] { SceneEdit::addOwn(*node, attribute); },
-            [node, attribute] { SceneEdit::removeOwn(*node, attribute); });
+    perform(
+        [node, attribute] { SceneEdit::addOwn(*node, attribute, node->ownAttributes().size()); },
+        [node, attribute] { SceneEdit::removeOwn(*node, attribute); });
 }
 
 void Scene::removeAttribute(const NodePtr &node, const AttributePtr &attribute)
 {
     const std::vector<AttributePtr> &own = node->ownAttributes();
-    if (std::find(own.begin(), own.end(), attribute) == own.end())
+    const auto found = std::find(own.begin(), own.end(), attribute);
+    if (found == own.end())
         throw Error("'" + attribute->longName + "' is no dynamic attribute of '" +
                     node->uniqueName() + "'.");
+    const std::size_t place = std::size_t(found - own.begin());
+    for (const auto &[source, destination] : connectionsBelow(*node, *attribute)) {
+        if (destination.node->source(destination)) // one within the attribute is listed twice
+            disconnect(source, destination);
+    }
+    for (const Plug &plug : plugsWithStateBelow(*node, *attribute))
+        setState(plug, PlugState());
     SceneEdit::run(*this, node, attribute, [&] { node->data_.erase(attribute.get()); });
     perform([node, attribute] { SceneEdit::removeOwn(*node, attribute); },
-            [node, attribute] { SceneEdit::addOwn(*node, attribute); });
+            [node, attribute, place] { SceneEdit::addOwn(*node, attribute, place); });
 }
 
 void Scene::setValue(const Plug &plug, Value value)
