@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "api/pointWalk.h"
+
+#include <algorithm>
+
+#include "api/componentBody.h"
+#include "scene/scene.h"
+#include "scene/transform.h"
+
+namespace host
+{
+
+namespace
+{
+
+void sortUnique(std::vector<int> &vertices)
+{
+    std::sort(vertices.begin(), vertices.end());
+    vertices.erase(std::unique(vertices.begin(), vertices.end()), vertices.end());
+}
+
+std::vector<int> verticesOfFaces(const MeshGeometry &geometry, const std::vector<int> &faces)
+{
+    std::vector<std::size_t> starts(1, 0);
+    for (const unsigned size : geometry.faceSizes)
+        starts.push_back(starts.back() + size);
+    std::vector<int> vertices;
+    for (const int face : faces) {
+        const auto index = static_cast<std::size_t>(face);
+        if (face < 0 || index >= geometry.faceSizes.size())
+            continue;
+        for (std::size_t corner = starts[index]; corner < starts[index + 1]; ++corner)
+            vertices.push_back(static_cast<int>(geometry.faceVertices[corner]));
+    }
+    return vertices;
+}
+
+// Edges are numbered by the mesh's own `edge` attribute: two vertices and a flag per element.
+bool verticesOfEdges(const Node &mesh, const std::vector<int> &edges, std::vector<int> &vertices)
+{
+    const PackedNumbers *stored = mesh.numbers(mesh.plug("edge"));
+    if (!stored)
+        return false;
+    for (const int edge : edges) {
+        const double *ends = stored->find(edge);
+        if (!ends)
+            return false;
+        vertices.push_back(static_cast<int>(ends[0]));
+        vertices.push_back(static_cast<int>(ends[1]));
+    }
+    return true;
+}
+
+} // namespace
+
+bool verticesOf(const Node &mesh, const Component &component, std::vector<int> &vertices)
+{
+    vertices.clear();
+    if (component.kind == ComponentKind::vertex)
+        vertices = component.elements;
+    else if (component.kind == ComponentKind::face)
+        vertices = verticesOfFaces(meshGeometry(mesh), component.elements);
+    else if (component.kind != ComponentKind::edge ||
+             !verticesOfEdges(mesh, component.elements, vertices))
+        return false;
+    sortUnique(vertices);
+    return true;
+}
+
+std::unique_ptr<PointWalk> PointWalk::over(const NodePtr &mesh, const DagPath *path,
+                                           const MObject &component)
+{
+    if (!mesh || !mesh->isA("mesh"))
+        return nullptr;
+    auto walk = std::make_unique<PointWalk>();
+    walk->mesh_ = mesh;
+    if (path)
+        walk->path_ = *path;
+    walk->isWhole_ = component.isNull();
+    walk->wholeCount_ = vertexCount(*mesh);
+    Component parts;
+    if (walk->isWhole_)
+        return walk;
+    if (!toComponent(component, parts) || !verticesOf(*mesh, parts, walk->vertices_))
+        return nullptr;
+    const bool isBeyond = !walk->vertices_.empty() &&
+                          static_cast<std::size_t>(walk->vertices_.back()) >= walk->wholeCount_;
+    return isBeyond ? nullptr : std::move(walk);
+}
+
+int PointWalk::vertex() const
+{
+    return isWhole_ ? static_cast<int>(place_) : vertices_[place_];
+}
+
+bool PointWalk::goTo(int vertex)
+{
+    if (isWhole_) {
+        if (vertex < 0 || static_cast<std::size_t>(vertex) >= wholeCount_)
+            return false;
+        place_ = static_cast<std::size_t>(vertex);
+        return true;
+    }
+    const auto found = std::lower_bound(vertices_.begin(), vertices_.end(), vertex);
+    if (found == vertices_.end() || *found != vertex)
+        return false;
+    place_ = static_cast<std::size_t>(found - vertices_.begin());
+    return true;
+}
+
+MObject PointWalk::currentItem() const
+{
+    Component component;
+    component.elements = {vertex()};
+    return toObject(component);
+}
+
+const MeshGeometry &PointWalk::geometry()
+{
+    if (!geometry_)
+        geometry_ = meshGeometry(*mesh_);
+    return *geometry_;
+}
+
+bool PointWalk::position(MSpace::Space space, MPoint &point)
+{
+    const std::vector<skin::Vec3> &points = geometry().points;
+    const auto index = static_cast<std::size_t>(vertex());
+    if (index >= points.size() || (space == MSpace::kWorld && path_.isNull()))
+        return false;
+    skin::Vec3 place = points[index];
+    if (space == MSpace::kWorld) {
+        if (!worldMatrix_)
+            worldMatrix_ = worldMatrix(path_);
+        place = transformPoint(place, *worldMatrix_);
+    }
+    point = MPoint(place.x, place.y, place.z);
+    return true;
+}
+
+std::vector<int> PointWalk::neighbours()
+{
+    if (!adjacency_)
+        adjacency_ = meshAdjacency(geometry());
+    const skin::Adjacency::Range range = adjacency_->of(static_cast<std::size_t>(vertex()));
+    return std::vector<int>(range.begin(), range.end());
+}
+
+} // namespace host
