@@ -2,6 +2,8 @@
 #include "mel/commands/commandSupport.h"
 
 #include <algorithm>
+#include <set>
+#include <unordered_set>
 
 #include "mel/commands/attributeAlias.h"
 #include "scene/error.h"
@@ -30,6 +32,14 @@ std::string_view firstStep(std::string_view path)
     return path.substr(0, path.find_first_of(".["));
 }
 
+int instanceOf(Context &context, std::string_view nodeName, const Node &node)
+{
+    if (node.parents().size() < 2 || nodeName.empty())
+        return 0;
+    const std::vector<DagPath> paths = context.scene().pathsMatching(nodeName);
+    return paths.empty() ? 0 : int(paths.front().instanceNumber());
+}
+
 // A path through another instance than the first means that instance's element of the arrays that
 // have one element per instance.
 void selectInstance(Context &context, const PlugName &name, PlugRange &range)
@@ -37,13 +47,10 @@ void selectInstance(Context &context, const PlugName &name, PlugRange &range)
     const std::string_view step = firstStep(name.attribute);
     const bool hasIndex = step.size() < name.attribute.size() && name.attribute[step.size()] == '[';
     const bool hasChild = range.plug.indices[0] != kNoIndex;
-    if (hasIndex || !hasChild || range.plug.node->parents().size() < 2)
-        return;
-    if (!range.plug.node->findAttribute(step)->isPerInstance)
-        return;
-    const std::vector<DagPath> paths = context.scene().pathsMatching(name.node);
-    if (!paths.empty())
-        range.plug.indices[0] = int(paths.front().instanceNumber());
+    const Node &node = *range.plug.node;
+    if (!hasIndex && hasChild && node.parents().size() > 1 &&
+        node.findAttribute(step)->isPerInstance)
+        range.plug.indices[0] = instanceOf(context, name.node, node);
 }
 
 PlugRange resolve(Context &context, const NodePtr &start, const PlugName &name,
@@ -64,13 +71,6 @@ PlugRange resolve(Context &context, const NodePtr &start, const PlugName &name,
     checkIndex(context, range.last);
     selectInstance(context, name, range);
     return range;
-}
-
-template <typename T>
-void appendOnce(std::vector<T> &list, const T &entry)
-{
-    if (std::find(list.begin(), list.end(), entry) == list.end())
-        list.push_back(entry);
 }
 
 } // namespace
@@ -123,6 +123,14 @@ Plug requireSinglePlug(Context &context, std::string_view name)
     return range.plug;
 }
 
+Plug requireConnectionEnd(Context &context, std::string_view name)
+{
+    const Plug plug = requireSinglePlug(context, name);
+    if (!plug.isWholeArray() || !plug.attribute->isPerInstance)
+        return plug;
+    return plug.element(instanceOf(context, splitPlugName(name).node, *plug.node));
+}
+
 std::optional<PlugRange> findPlug(Context &context, std::string_view name)
 {
     const PlugName parts = splitPlugName(name);
@@ -151,18 +159,23 @@ std::vector<SelectionItem> objectsOrSelection(Context &context, const Arguments 
 std::vector<NodePtr> nodesOrSelection(Context &context, const Arguments &arguments)
 {
     std::vector<NodePtr> nodes;
-    for (const SelectionItem &item : objectsOrSelection(context, arguments))
-        appendOnce(nodes, item.node);
+    std::unordered_set<const Node *> seen;
+    for (const SelectionItem &item : objectsOrSelection(context, arguments)) {
+        if (seen.insert(item.node.get()).second)
+            nodes.push_back(item.node);
+    }
     return nodes;
 }
 
 std::vector<DagPath> pathsOrSelection(Context &context, const Arguments &arguments)
 {
     std::vector<DagPath> paths;
+    std::set<std::vector<NodePtr>> seen;
     for (const SelectionItem &item : objectsOrSelection(context, arguments)) {
         if (item.path.isNull())
             throw Error("'" + item.node->uniqueName() + "' is not a DAG object.");
-        appendOnce(paths, item.path);
+        if (seen.insert(item.path.nodes()).second)
+            paths.push_back(item.path);
     }
     return paths;
 }
@@ -198,6 +211,23 @@ void checkIndex(const Context &context, long long index)
                                 : kMaxElements;
     if (index > limit)
         throw Error("The index " + std::to_string(index) + " is out of range.");
+}
+
+SelectionItem itemOf(const NodePtr &node)
+{
+    SelectionItem item;
+    item.node = node;
+    if (node->isDag())
+        item.path = DagPath::first(node);
+    return item;
+}
+
+SelectionItem itemOf(const DagPath &path)
+{
+    SelectionItem item;
+    item.node = path.node();
+    item.path = path;
+    return item;
 }
 
 std::vector<std::string> uniqueNames(const std::vector<NodePtr> &nodes)

@@ -28,6 +28,9 @@ NodePtr requireNodeOfType(Context &context, std::string_view name, std::string_v
 // that the node does not have are learned. A per-instance array without an index stands for the
 // element of the instance that the name's path selects where a child follows it.
 PlugRange requirePlug(Context &context, std::string_view name);
+// The plug that a connection to or from `name` means: one plug, and of an array with one element
+// per instance the element of the instance that the name selects ("|a|aShape.iog").
+Plug requireConnectionEnd(Context &context, std::string_view name);
 // The same for a name that means one plug: refuses a range.
 Plug requireSinglePlug(Context &context, std::string_view name);
 // Nothing instead of an error when the node or the attribute is not there; learns nothing.
@@ -61,6 +64,10 @@ double requireNumber(std::string_view text);
 std::size_t requireCount(const Context &context, std::string_view text);
 void checkIndex(const Context &context, long long index);
 constexpr long long kMaxElements = 100'000'000;
+
+// A whole node or path as the selection holds it.
+SelectionItem itemOf(const NodePtr &node);
+SelectionItem itemOf(const DagPath &path);
 
 // Shortest unique names, as commands give them back.
 std::vector<std::string> uniqueNames(const std::vector<NodePtr> &nodes);

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <deque>
+#include <optional>
 
 #include "mel/commands/builtInCommands.h"
 #include "mel/commands/commandSupport.h"
@@ -133,6 +134,13 @@ void takeSizes(const Context &context, const PlugRange &range, const Arguments &
         attribute.isArray = true;
 }
 
+// Values of a node that the file itself made come and go with the node: an undo of the import need
+// not know them.
+bool belongsToFile(const Node &node)
+{
+    return !node.isDefault() && !node.isShared();
+}
+
 MelValue setAttr(Context &context, const Arguments &arguments)
 {
     if (arguments.objects.empty())
@@ -145,6 +153,9 @@ MelValue setAttr(Context &context, const Arguments &arguments)
         writeStates(context.scene(), range, arguments);
     if (arguments.objects.size() > 1 || !type.empty()) {
         if (context.isReadingFile) {
+            std::optional<RecordingPause> pause;
+            if (belongsToFile(*range.plug.node))
+                pause.emplace(context.scene());
             const Operand *values = arguments.objects.data();
             ValueTokens tokens(values + 1, values + arguments.objects.size());
             writeValues(context.scene(), range, type, tokens);

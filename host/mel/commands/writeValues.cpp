@@ -148,6 +148,18 @@ void apply(Scene &scene, Changes &changes)
         scene.setValue(plug, std::move(value));
 }
 
+// Only such types are understood whose values tell their type again when the scene is written; of
+// other data on unknown attributes the text is kept.
+Value takeLearned(std::string_view type, ValueTokens &tokens)
+{
+    constexpr std::string_view kUnderstood[] = {"string", "matrix", "stringArray", "doubleArray"};
+    const bool isUnderstood =
+        std::find(std::begin(kUnderstood), std::end(kUnderstood), type) != std::end(kUnderstood);
+    if (isUnderstood)
+        return takeValue(type, tokens);
+    return OpaqueValue{std::string(type), tokens.rest()};
+}
+
 // Each plug of the range gets an equal share of the tokens, as text if their type says no more.
 Changes takeShares(const PlugRange &range, std::string_view type, ValueTokens &tokens)
 {
@@ -157,7 +169,7 @@ Changes takeShares(const PlugRange &range, std::string_view type, ValueTokens &t
     Changes changes;
     for (unsigned i = 0; i < range.count(); ++i) {
         ValueTokens own = tokens.split(share);
-        changes.emplace_back(range.at(i), takeValue(type, own));
+        changes.emplace_back(range.at(i), takeLearned(type, own));
         own.requireEnd();
     }
     return changes;

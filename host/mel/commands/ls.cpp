@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: Apache-2.0
+// ls: names of nodes, of what is selected, of what matches a pattern.
+#include <algorithm>
+
+#include "mel/commands/builtInCommands.h"
+#include "mel/commands/commandSupport.h"
+
+namespace host::mel
+{
+
+namespace
+{
+
+using Items = std::vector<SelectionItem>;
+
+const std::vector<Flag> kFlags = {{"sl", "selection"},
+                                  {"l", "long"},
+                                  {"fl", "flatten"},
+                                  {"typ", "type", "s", Flag::multiUse},
+                                  {"ext", "excludeType", "s", Flag::multiUse},
+                                  {"et", "exactType", "s", Flag::multiUse},
+                                  {"dag", "dagObjects"},
+                                  {"s", "shapes"},
+                                  {"tr", "transforms"},
+                                  {"as", "assemblies"},
+                                  {"hl", "hilite"},
+                                  {"os", "orderedSelection"},
+                                  {"o", "objectsOnly"},
+                                  {"hd", "head", "i"},
+                                  {"tl", "tail", "i"},
+                                  {"ap", "allPaths"},
+                                  {"ni", "noIntermediate"},
+                                  {"io", "intermediateObjects"},
+                                  {"dn", "defaultNodes"},
+                                  {"ln", "lockedNodes"},
+                                  {"r", "recursive", "b"},
+                                  {"st", "showType"},
+                                  {"uid", "uuid"}};
+
+void append(Items &items, const Items &more)
+{
+    items.insert(items.end(), more.begin(), more.end());
+}
+
+Items allNodes(const Scene &scene)
+{
+    Items items;
+    for (const NodePtr &node : scene.nodes())
+        items.push_back(itemOf(node));
+    return items;
+}
+
+// With -recursive a plain name or pattern is looked for in every namespace.
+Items matches(const Scene &scene, std::string_view pattern, bool isRecursive)
+{
+    Items items = matchName(scene, pattern);
+    if (!isRecursive || pattern.find_first_of("|:.") != std::string_view::npos)
+        return items;
+    for (const std::string &nameSpace : scene.namespaces())
+        append(items, matchName(scene, nameSpace + ':' + std::string(pattern)));
+    return items;
+}
+
+Items listed(Context &context, const Arguments &arguments)
+{
+    const Session &session = context.session;
+    Items items;
+    if (arguments.has("orderedSelection"))
+        return session.orderedSelection().items();
+    if (arguments.has("hilite"))
+        return session.hilited().items();
+    for (const Operand &object : arguments.objects)
+        append(items, matches(context.scene(), object.text, arguments.boolean("recursive", false)));
+    if (arguments.has("selection")) {
+        if (arguments.objects.empty())
+            return session.selection().items();
+        const auto isUnselected = [&session](const SelectionItem &item) {
+            return !session.selection().has(item);
+        };
+        items.erase(std::remove_if(items.begin(), items.end(), isUnselected), items.end());
+        return items;
+    }
+    return arguments.objects.empty() ? allNodes(context.scene()) : items;
+}
+
+void appendHierarchy(const DagPath &path, Items &items)
+{
+    items.push_back(itemOf(path));
+    for (const NodePtr &child : path.node()->children())
+        appendHierarchy(path.child(child), items);
+}
+
+// -dag lists what is below the objects too; without objects the whole DAG from the top.
+Items withHierarchy(Context &context, const Items &items, bool isEverything)
+{
+    Items all;
+    if (isEverything) {
+        for (const NodePtr &node : context.scene().world()->children())
+            appendHierarchy(DagPath({node}), all);
+        return all;
+    }
+    for (const SelectionItem &item : items) {
+        if (!item.path.isNull())
+            appendHierarchy(item.path, all);
+    }
+    return all;
+}
+
+bool isAnyOf(const Node &node, const Arguments &arguments, const char *flag, bool exactly)
+{
+    for (std::size_t use = 0; use < arguments.uses(flag); ++use) {
+        const std::string_view type = arguments.of(flag, use).front().text;
+        if (exactly ? node.type().name == type : node.isA(type))
+            return true;
+    }
+    return false;
+}
+
+bool isAssembly(const SelectionItem &item)
+{
+    return item.path.nodes().size() == 1;
+}
+
+struct Filter {
+    const char *flag;
+    bool (*keeps)(const SelectionItem &item);
+};
+// Each flag that is given keeps what its function accepts.
+const Filter kFilters[] = {
+    {"shapes", [](const SelectionItem &item) { return isShape(*item.node); }},
+    {"transforms", [](const SelectionItem &item) { return item.node->isA("transform"); }},
+    {"assemblies", isAssembly},
+    {"noIntermediate",
+     [](const SelectionItem &item) {
+         return !isShape(*item.node) || !item.node->isIntermediate();
+     }},
+    {"intermediateObjects",
+     [](const SelectionItem &item) { return isShape(*item.node) && item.node->isIntermediate(); }},
+    {"defaultNodes",
+     [](const SelectionItem &item) { return item.node->isDefault() || item.node->isShared(); }},
+    {"lockedNodes", [](const SelectionItem &item) { return item.node->isLocked(); }},
+};
+
+bool isKept(const SelectionItem &item, const Arguments &arguments)
+{
+    const Node &node = *item.node;
+    if (arguments.has("type") && !isAnyOf(node, arguments, "type", false))
+        return false;
+    if (arguments.has("exactType") && !isAnyOf(node, arguments, "exactType", true))
+        return false;
+    if (isAnyOf(node, arguments, "excludeType", false))
+        return false;
+    return std::all_of(std::begin(kFilters), std::end(kFilters), [&](const Filter &filter) {
+        return !arguments.has(filter.flag) || filter.keeps(item);
+    });
+}
+
+// "pCube1.vtx[0:2]" as one item per vertex.
+Items flattened(const Items &items)
+{
+    Items single;
+    for (const SelectionItem &item : items) {
+        if (!item.component) {
+            single.push_back(item);
+            continue;
+        }
+        for (int element : item.component->elements) {
+            SelectionItem one = item;
+            one.component->elements = {element};
+            single.push_back(std::move(one));
+        }
+    }
+    return single;
+}
+
+Items withAllPaths(const Items &items)
+{
+    Items all;
+    for (const SelectionItem &item : items) {
+        if (item.path.isNull() || item.component || item.isPlug()) {
+            all.push_back(item);
+            continue;
+        }
+        for (const DagPath &path : DagPath::all(item.node))
+            all.push_back(itemOf(path));
+    }
+    return all;
+}
+
+Items objectsOnly(const Items &items)
+{
+    Items objects;
+    for (SelectionItem item : items) {
+        item.component.reset();
+        item.plug = Plug();
+        const auto isSame = [&item](const SelectionItem &other) { return other == item; };
+        if (std::none_of(objects.begin(), objects.end(), isSame))
+            objects.push_back(std::move(item));
+    }
+    return objects;
+}
+
+void cutEnds(Items &items, const Arguments &arguments)
+{
+    const auto limit = [&items, &arguments](const char *flag) {
+        const auto count = std::size_t(std::max(0LL, arguments.integer(flag, 0)));
+        return long(std::min(count, items.size()));
+    };
+    if (arguments.has("head"))
+        items.erase(items.begin() + limit("head"), items.end());
+    if (arguments.has("tail"))
+        items.erase(items.begin(), items.end() - limit("tail"));
+}
+
+std::vector<std::string> namesOf(const Items &items, const Arguments &arguments)
+{
+    std::vector<std::string> names;
+    for (const SelectionItem &item : items) {
+        if (arguments.has("uuid")) {
+            names.push_back(item.node->uuid());
+            continue;
+        }
+        for (std::string &name : item.names(arguments.has("long"))) {
+            names.push_back(std::move(name));
+            if (arguments.has("showType"))
+                names.push_back(item.node->type().name);
+        }
+    }
+    return names;
+}
+
+MelValue ls(Context &context, const Arguments &arguments)
+{
+    Items items = listed(context, arguments);
+    if (arguments.has("dagObjects")) {
+        const bool isEverything = arguments.objects.empty() && !arguments.has("selection") &&
+                                  !arguments.has("orderedSelection") && !arguments.has("hilite");
+        items = withHierarchy(context, items, isEverything);
+    }
+    const auto isDropped = [&arguments](const SelectionItem &item) {
+        return !isKept(item, arguments);
+    };
+    items.erase(std::remove_if(items.begin(), items.end(), isDropped), items.end());
+    if (arguments.has("objectsOnly"))
+        items = objectsOnly(items);
+    if (arguments.has("allPaths"))
+        items = withAllPaths(items);
+    if (arguments.has("flatten"))
+        items = flattened(items);
+    cutEnds(items, arguments);
+    return namesOf(items, arguments);
+}
+
+} // namespace
+
+void addListCommand(CommandTable &table)
+{
+    Command command{"ls", kFlags, ls};
+    command.isUndoable = false;
+    table.add(std::move(command));
+}
+
+} // namespace host::mel
