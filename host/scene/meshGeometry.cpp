@@ -170,7 +170,7 @@ unsigned vertexCount(const Node &mesh)
         return unsigned(source->numbers(source->plug("vrts"))->highestIndex() + 1);
     if (const unsigned rows = weightListCount(mesh))
         return rows;
-    return source && source->isA("polyPrimitive") ? primitiveGeometry(*source).vertexCount : 0;
+    return source && source->isA("polyPrimitive") ? primitiveVertexCount(*source) : 0;
 }
 
 skin::Adjacency meshAdjacency(const MeshGeometry &geometry)

@@ -234,9 +234,10 @@ const Primitive kPrimitives[] = {
      }},
     {"polyCylinder", buildCylinder,
      [](const PrimitiveSettings &s) {
-         return s.count("subdivisionsAxis", 3) * (s.count("subdivisionsHeight", 1) + 1.0 +
-                                                  2.0 * s.count("subdivisionsCaps", 0)) +
-                2;
+         const double around = s.count("subdivisionsAxis", 3);
+         const double caps = s.count("subdivisionsCaps", 0);
+         const double inCaps = caps > 0 ? 2 * around * (caps - 1) + 2 : 0;
+         return around * (s.count("subdivisionsHeight", 1) + 1.0) + inCaps;
      }},
     {"polySphere", buildSphere,
      [](const PrimitiveSettings &s) {
@@ -278,29 +279,40 @@ void roundToSingle(std::vector<skin::Vec3> &points)
         p = {double(float(p.x)), double(float(p.y)), double(float(p.z))};
 }
 
+const Primitive *findPrimitive(const Node &node)
+{
+    for (const Primitive &row : kPrimitives) {
+        if (node.type().name == row.nodeType)
+            return &row;
+    }
+    return nullptr;
+}
+
 } // namespace
+
+unsigned primitiveVertexCount(const Node &primitive)
+{
+    const Primitive *row = findPrimitive(primitive);
+    const double count = row ? row->vertexCount(PrimitiveSettings(primitive)) : 0;
+    return count <= kMaxPrimitiveVertices ? unsigned(count) : 0;
+}
 
 MeshGeometry primitiveGeometry(const Node &primitive)
 {
-    for (const Primitive &row : kPrimitives) {
-        if (primitive.type().name != row.nodeType)
-            continue;
-        const PrimitiveSettings settings(primitive);
-        PrimitiveBuilder builder;
-        if (row.vertexCount(settings) <= kMaxPrimitiveVertices)
-            row.build(settings, builder);
-        MeshGeometry &geometry = builder.geometry;
-        turnToAxis(primitive, geometry.points);
-        roundToSingle(geometry.points);
-        geometry.vertexCount = unsigned(geometry.points.size());
-        // Euler's formula; a plane is open, so it has one face less than it closes.
-        const unsigned characteristic = row.build == buildPlane ? 1 : 2;
-        if (geometry.vertexCount > 0)
-            geometry.edgeCount =
-                geometry.vertexCount + unsigned(geometry.faceSizes.size()) - characteristic;
-        return std::move(geometry);
-    }
-    return {};
+    PrimitiveBuilder builder;
+    MeshGeometry &geometry = builder.geometry;
+    geometry.vertexCount = primitiveVertexCount(primitive);
+    if (geometry.vertexCount == 0)
+        return {};
+    const Primitive &row = *findPrimitive(primitive);
+    row.build(PrimitiveSettings(primitive), builder);
+    turnToAxis(primitive, geometry.points);
+    roundToSingle(geometry.points);
+    // Euler's formula; a plane is open, so it has one face less than it closes.
+    const unsigned characteristic = row.build == buildPlane ? 1 : 2;
+    geometry.edgeCount =
+        geometry.vertexCount + unsigned(geometry.faceSizes.size()) - characteristic;
+    return std::move(geometry);
 }
 
 } // namespace host

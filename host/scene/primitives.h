@@ -13,6 +13,9 @@ class Scene;
 // radius, subdivisionsX ...); an empty geometry for any other node.
 MeshGeometry primitiveGeometry(const Node &primitive);
 
+// How many vertices that geometry has, without building it.
+unsigned primitiveVertexCount(const Node &primitive);
+
 // Writes points, edges and faces into a mesh's own attributes (vrts, edge, face).
 void storeGeometry(Scene &scene, const NodePtr &mesh, const MeshGeometry &geometry);
 

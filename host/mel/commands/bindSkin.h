@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 // Binding a mesh to joints: the skin cluster, its influences and its first weights.
-//
-// All functions refuse before they change anything, with host::Error.
 #pragma once
 
 #include <string>
