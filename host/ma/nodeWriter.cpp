@@ -81,7 +81,7 @@ bool isDataKind(const Attribute &attribute)
 void NodeWriter::writeNode(const NodePtr &node)
 {
     const FlagNames &flags = style_.flags;
-    out_.begin("createNode").word(node->type().name);
+    out_.begin("createNode").wordOrQuoted(node->type().name);
     if (node->isShared())
         out_.word(flags("-s", "-shared"));
     out_.flagQuoted(flags("-n", "-name"), node->name());
@@ -108,7 +108,8 @@ void NodeWriter::writeDefaultNode(const NodePtr &node)
     // A connection to a node that only this file knows as a default one needs the node as well.
     if (block.empty() && node->sources().empty() && node->allDestinations().empty())
         return;
-    out_.begin("select").flag(style_.flags("-ne", "-noExpand"), ':' + node->name()).end();
+    out_.begin("select").word(style_.flags("-ne", "-noExpand"));
+    out_.wordOrQuoted(':' + node->name()).end();
     if (!block.empty())
         out_.line(std::string_view(block).substr(0, block.size() - 1));
 }

@@ -132,6 +132,8 @@ void Reader::callCommand(const mel::Statement &statement)
     }
     if (contains(kAboutCurrentNode, name))
         requireCurrentNode(statement);
+    if (name == "parent")
+        requireObjects(statement);
     interpreter_.call(context_, statement);
     if (name == "createNode") {
         checkGivenName(statement);
@@ -157,7 +159,16 @@ void Reader::selectNode(const mel::Statement &statement)
     currentNode_ = target_.defaultNode(name);
 }
 
-// Without a node to be about, these would turn to what is selected in the session.
+// Without objects the command would turn to what is selected in the session.
+void Reader::requireObjects(const mel::Statement &statement) const
+{
+    const bool isBare = std::all_of(statement.arguments.begin(), statement.arguments.end(),
+                                    [](const mel::Argument &word) { return word.isFlag(); });
+    if (isBare)
+        throwFileError(file_.path(), statement.line, "No objects were specified");
+}
+
+// The same for these without a node to be about: they would change what is selected.
 void Reader::requireCurrentNode(const mel::Statement &statement) const
 {
     if (!currentNode_)

@@ -30,6 +30,7 @@ private:
     void call(const mel::Statement &statement);
     void callCommand(const mel::Statement &statement);
     void selectNode(const mel::Statement &statement);
+    void requireObjects(const mel::Statement &statement) const;
     void requireCurrentNode(const mel::Statement &statement) const;
     void checkArguments(const mel::Statement &statement) const;
     void checkGivenName(const mel::Statement &statement) const;

@@ -2,6 +2,7 @@
 #include "ma/sceneWriter.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cstdlib>
 
 #include "ma/maFile.h"
@@ -24,6 +25,14 @@ FileStyle styleOf(const FileFacts &facts)
     if (release > 0 && release < kFirstPackedRelease)
         style.weights = WeightForm::runs;
     return style;
+}
+
+// What comes from elsewhere must not end the comment that it stands in.
+std::string commentText(std::string text)
+{
+    std::replace_if(
+        text.begin(), text.end(), [](unsigned char c) { return std::iscntrl(c) != 0; }, '_');
+    return text;
 }
 
 // Marks the session while a file is written.
@@ -64,7 +73,7 @@ void SceneWriter::writeFile(const std::string &fileName)
     writeConnections();
     for (const std::string &statement : scene_.facts.trailing)
         out_.line(statement);
-    out_.line("// End of " + fileName);
+    out_.line("// End of " + commentText(fileName));
 }
 
 void SceneWriter::writeNodesFor(const std::vector<NodePtr> &present)
@@ -79,8 +88,8 @@ void SceneWriter::writeNodesFor(const std::vector<NodePtr> &present)
 // No date: two savings of one scene are equal.
 void SceneWriter::writeHeader(const std::string &fileName)
 {
-    out_.line("//Maya ASCII " + scene_.facts.mayaVersion + " scene");
-    out_.line("//Name: " + fileName);
+    out_.line("//Maya ASCII " + commentText(scene_.facts.mayaVersion) + " scene");
+    out_.line("//Name: " + commentText(fileName));
     out_.line("//Codeset: UTF-8");
 }
 
@@ -93,11 +102,9 @@ void SceneWriter::writeFacts()
     out_.begin("requires").word("maya").quoted(facts.mayaVersion).end();
     for (const std::string &statement : facts.requiredPlugins)
         out_.line(statement);
-    out_.begin("currentUnit")
-        .flag(flags("-l", "-linear"), facts.linearUnit)
-        .flag(flags("-a", "-angle"), facts.angularUnit)
-        .flag(flags("-t", "-time"), facts.timeUnit)
-        .end();
+    out_.begin("currentUnit").word(flags("-l", "-linear")).wordOrQuoted(facts.linearUnit);
+    out_.word(flags("-a", "-angle")).wordOrQuoted(facts.angularUnit);
+    out_.word(flags("-t", "-time")).wordOrQuoted(facts.timeUnit).end();
     for (const auto &[key, value] : facts.fileInfo)
         out_.begin("fileInfo").quoted(key).quoted(value).end();
 }

@@ -2,6 +2,7 @@
 #include "ma/statementWriter.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <cmath>
 
@@ -151,6 +152,14 @@ StatementWriter &StatementWriter::word(std::string_view word)
 StatementWriter &StatementWriter::quoted(std::string_view text)
 {
     return word(quotedText(text));
+}
+
+StatementWriter &StatementWriter::wordOrQuoted(std::string_view text)
+{
+    const bool isWord = !text.empty() && std::all_of(text.begin(), text.end(), [](unsigned char c) {
+        return std::isalnum(c) || c == '_' || c == ':';
+    });
+    return isWord ? word(text) : quoted(text);
 }
 
 StatementWriter &StatementWriter::flag(std::string_view flag, std::string_view value)

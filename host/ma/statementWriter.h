@@ -25,6 +25,8 @@ public:
     StatementWriter &begin(std::string_view command, Place place = Place::firstColumn);
     StatementWriter &word(std::string_view word);
     StatementWriter &quoted(std::string_view text);
+    // As a bare word where that says the same, else in quotes: type names, units.
+    StatementWriter &wordOrQuoted(std::string_view text);
     // Two words that a line end should not part: -n "name".
     StatementWriter &flag(std::string_view flag, std::string_view value);
     StatementWriter &flagQuoted(std::string_view flag, std::string_view text);
