@@ -229,9 +229,11 @@ unsigned int MFnSkinCluster::influenceObjects(MDagPathArray &paths, MStatus *Ret
     const NodePtr node = host::nodeOf(*this);
     host::report(ReturnStatus, node ? MStatus::kSuccess : MStatus::kFailure);
     MDagPathArray found;
-    if (node)
-        for (const host::Influence &influence : SkinCluster(node).influences())
+    if (node) {
+        const SkinCluster cluster(node);
+        for (const host::Influence &influence : cluster.influences())
             found.append(host::toMDagPath(influence.path));
+    }
     paths = found;
     return paths.length();
 }
