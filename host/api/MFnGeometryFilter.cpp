@@ -52,7 +52,7 @@ NodePtr shapeBehind(Plug output)
 // Existing elements of outputGeometry, by logical index.
 std::vector<int> outputIndices(const NodePtr &filter)
 {
-    return filter->elementIndices(outputOf(filter));
+    return host::elementIndices(outputOf(filter));
 }
 
 NodePtr outputShape(const NodePtr &filter, int index)

@@ -85,7 +85,7 @@ template <class Test>
 unsigned int countElements(const Plug &plug, Test test)
 {
     unsigned int count = 0;
-    for (const int index : plug.node->elementIndices(plug))
+    for (const int index : host::elementIndices(plug))
         count += test(plug.element(index));
     return count;
 }
@@ -279,7 +279,7 @@ unsigned int MPlug::getExistingArrayAttributeIndices(MIntArray &indices, MStatus
     const Plug *plug = host::plugOf(*this);
     if (!plug || !plug->isWholeArray())
         return answer(ReturnStatus, MStatus::kFailure, 0u);
-    const std::vector<int> list = plug->node->elementIndices(*plug);
+    const std::vector<int> list = host::elementIndices(*plug);
     indices = MIntArray(list.data(), static_cast<unsigned int>(list.size()));
     return answer(ReturnStatus, MStatus::kSuccess, indices.length());
 }
@@ -289,8 +289,9 @@ unsigned int MPlug::numElements(MStatus *ReturnStatus) const
     const Plug *plug = host::plugOf(*this);
     if (!plug || !plug->isWholeArray())
         return answer(ReturnStatus, MStatus::kFailure, 0u);
-    return answer(ReturnStatus, MStatus::kSuccess,
-                  static_cast<unsigned int>(plug->node->elementCount(*plug)));
+    const std::size_t count = plug->attribute->isComputed ? host::elementIndices(*plug).size()
+                                                          : plug->node->elementCount(*plug);
+    return answer(ReturnStatus, MStatus::kSuccess, static_cast<unsigned int>(count));
 }
 
 unsigned int MPlug::evaluateNumElements(MStatus *ReturnStatus)
@@ -392,7 +393,7 @@ MPlug MPlug::connectionByPhysicalIndex(unsigned int physicalIndex, MStatus *Retu
     const Plug *plug = host::plugOf(*this);
     if (!plug || !plug->isWholeArray())
         return answer(ReturnStatus, MStatus::kFailure, MPlug());
-    for (const int index : plug->node->elementIndices(*plug)) {
+    for (const int index : host::elementIndices(*plug)) {
         const Plug element = plug->element(index);
         if (isConnectedPlug(element) && physicalIndex-- == 0)
             return answer(ReturnStatus, MStatus::kSuccess, derived(*this, element));

@@ -2,6 +2,7 @@
 #include "api/nodeBody.h"
 
 #include <algorithm>
+#include <set>
 
 #include <maya/MFnBase.h>
 
@@ -123,13 +124,38 @@ bool NodeBody::sameAs(const ObjectBody &other) const
     return body && !node_.owner_before(body->node_) && !body->node_.owner_before(node_);
 }
 
+namespace
+{
+
+std::vector<int> computedIndices(const Plug &array)
+{
+    std::set<int> indices;
+    if (array.attribute->isPerInstance && array.node->isDag())
+        for (std::size_t i = 0; i < DagPath::all(array.node).size(); ++i)
+            indices.insert(static_cast<int>(i));
+    for (const auto &destination : array.node->allDestinations()) {
+        const Plug plug = array.node->plugOf(destination.first);
+        if (plug.attribute == array.attribute && plug.isElement() && plug.array() == array)
+            indices.insert(plug.ownIndex());
+    }
+    return std::vector<int>(indices.begin(), indices.end());
+}
+
+} // namespace
+
+std::vector<int> elementIndices(const Plug &wholeArray)
+{
+    return wholeArray.attribute->isComputed ? computedIndices(wholeArray)
+                                            : wholeArray.node->elementIndices(wholeArray);
+}
+
 int PlugBody::logicalIndex(unsigned physical) const
 {
     const Node &node = *plug.node;
     const bool isFresh = physical < order_.size() && order_.size() == node.elementCount(plug) &&
                          node.hasElement(plug.element(order_[physical]));
     if (!isFresh)
-        order_ = node.elementIndices(plug);
+        order_ = elementIndices(plug);
     return physical < order_.size() ? order_[physical] : kNoIndex;
 }
 

@@ -69,6 +69,10 @@ MPlug toMPlug(Plug plug, bool isNetworked = false);
 // The node if it is one and in the scene, else null.
 NodePtr nodeOf(const MObject &object);
 NodePtr nodeOf(const MFnBase &functionSet);
+// Logical indices of the elements that exist, ascending: stored ones, and of a computed array those
+// that are connected or that the node's instances call for.
+std::vector<int> elementIndices(const Plug &wholeArray);
+
 // The path if it is valid, else null; the plug if its node is in the scene, else null.
 const DagPath *pathOf(const MDagPath &path);
 const Plug *plugOf(const MPlug &plug);

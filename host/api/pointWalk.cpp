@@ -2,8 +2,11 @@
 #include "api/pointWalk.h"
 
 #include <algorithm>
+#include <set>
+#include <utility>
 
 #include "api/componentBody.h"
+#include "scene/history.h"
 #include "scene/scene.h"
 #include "scene/transform.h"
 
@@ -35,18 +38,53 @@ std::vector<int> verticesOfFaces(const MeshGeometry &geometry, const std::vector
     return vertices;
 }
 
-// Edges are numbered by the mesh's own `edge` attribute: two vertices and a flag per element.
+using EdgeEnds = std::pair<int, int>;
+
+// Edges as the mesh, or whatever stores its geometry, numbers them: two vertices and a flag each.
+const PackedNumbers *storedEdges(const Node &mesh)
+{
+    if (const PackedNumbers *own = mesh.numbers(mesh.plug("edge")))
+        return own;
+    for (const NodePtr &node : geometryHistory(shapeInput(mesh)))
+        if (const PackedNumbers *edges =
+                node->isA("mesh") ? node->numbers(node->plug("edge")) : nullptr)
+            return edges;
+    return nullptr;
+}
+
+// Where no edges are stored they are numbered as the faces meet them, which is what storing the
+// geometry would do (storeGeometry in scene/primitives.h).
+std::vector<EdgeEnds> numberEdges(const MeshGeometry &geometry)
+{
+    std::vector<EdgeEnds> edges;
+    std::set<EdgeEnds> seen;
+    const unsigned *face = geometry.faceVertices.data();
+    for (const unsigned size : geometry.faceSizes) {
+        for (unsigned corner = 0; corner < size; ++corner) {
+            const EdgeEnds ends = std::minmax(static_cast<int>(face[corner]),
+                                              static_cast<int>(face[(corner + 1) % size]));
+            if (seen.insert(ends).second)
+                edges.push_back(ends);
+        }
+        face += size;
+    }
+    return edges;
+}
+
 bool verticesOfEdges(const Node &mesh, const std::vector<int> &edges, std::vector<int> &vertices)
 {
-    const PackedNumbers *stored = mesh.numbers(mesh.plug("edge"));
-    if (!stored)
-        return false;
+    const PackedNumbers *stored = storedEdges(mesh);
+    const std::vector<EdgeEnds> numbered =
+        stored ? std::vector<EdgeEnds>() : numberEdges(meshGeometry(mesh));
     for (const int edge : edges) {
-        const double *ends = stored->find(edge);
-        if (!ends)
+        const double *ends = stored ? stored->find(edge) : nullptr;
+        const bool isNumbered = edge >= 0 && static_cast<std::size_t>(edge) < numbered.size();
+        if (!ends && !isNumbered)
             return false;
-        vertices.push_back(static_cast<int>(ends[0]));
-        vertices.push_back(static_cast<int>(ends[1]));
+        const EdgeEnds pair = ends ? EdgeEnds(static_cast<int>(ends[0]), static_cast<int>(ends[1]))
+                                   : numbered[static_cast<std::size_t>(edge)];
+        vertices.push_back(pair.first);
+        vertices.push_back(pair.second);
     }
     return true;
 }
