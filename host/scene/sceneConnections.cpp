@@ -190,6 +190,14 @@ void Scene::disconnect(const Plug &source, const Plug &destination)
 int Scene::nextAvailable(const Plug &wholeArray) const
 {
     int index = 0;
+    // Elements without a gap are passed at once: sets of big scenes have thousands of members.
+    const Datum *datum = wholeArray.node->datum(wholeArray);
+    if (datum && !datum->elements.empty()) {
+        const int behindLast = std::prev(datum->elements.end())->first + 1;
+        if (datum->elements.begin()->first == 0 &&
+            std::size_t(behindLast) == datum->elements.size())
+            index = behindLast;
+    }
     while (wholeArray.node->source(wholeArray.element(index)) ||
            wholeArray.node->hasElement(wholeArray.element(index)))
         ++index;

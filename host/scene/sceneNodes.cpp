@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "scene/instancePaths.h"
 #include "scene/scene.h"
 
 namespace host
@@ -27,14 +28,6 @@ bool isLegalName(std::string_view name)
     return std::all_of(name.begin(), name.end(), [](unsigned char c) {
         return std::isalnum(c) || c == '_' || c == ':' || c >= 0x80; // UTF-8 letters
     });
-}
-
-bool isAbove(const Node &node, const Node &other)
-{
-    if (&node == &other)
-        return true;
-    return std::any_of(other.parents().begin(), other.parents().end(),
-                       [&node](const Node *parent) { return isAbove(node, *parent); });
 }
 
 // A hierarchy deeper than this is refused: no rig comes near, and walks up and down may recurse.
@@ -311,12 +304,14 @@ void Scene::reparent(const NodePtr &node, const NodePtr &oldParent, const NodePt
 void Scene::addInstance(const NodePtr &node, const NodePtr &parent)
 {
     const NodePtr to = parent ? parent : world_;
-    if (isAbove(*node, *to))
+    if (isAtOrAbove(*node, *to))
         throw Error("Can not parent '" + node->uniqueName() + "' below itself.");
     if (to->isA("shape"))
         throw Error("A shape can not be a parent: " + to->uniqueName());
     if (placeOf(node->parents_, to.get()) < node->parents_.size())
         throw Error("'" + node->uniqueName() + "' is already a child of '" + to->name() + "'.");
+    if (wouldHaveTooManyPaths(*node, *to))
+        throw Error("Too many instances: '" + node->uniqueName() + "' below '" + to->name() + "'.");
     const std::string name = freeName(node->name_, true, to.get());
     if (name != node->name_)
         rename(node, name);

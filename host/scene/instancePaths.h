@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: Apache-2.0
+// Instances multiply the ways down to what lies below them; this keeps their number in bounds.
+#pragma once
+
+#include <cstddef>
+
+namespace host
+{
+
+class Node;
+
+// Paths that a node may have. Thirty nested instances would give it a thousand million, and listing
+// them would never end.
+constexpr std::size_t kMaxPathsPerNode = 10'000;
+
+// True when `other` is `node` or lies below it.
+bool isAtOrAbove(const Node &node, const Node &other);
+
+// Whether `node`, or one below it, would have too many paths with `parent` as a further parent.
+bool wouldHaveTooManyPaths(const Node &node, const Node &parent);
+
+} // namespace host
