@@ -27,7 +27,9 @@ MelValue createNode(Context &context, const Arguments &arguments)
                              : scene.createNode(type, name, parent, unknown);
     if (context.currentNode)
         *context.currentNode = node;
-    if (!context.isReadingFile && !arguments.has("skipSelect"))
+    if (context.isReadingFile)
+        return MelValue(); // nobody asks, and unique names take time where many nodes share one
+    if (!arguments.has("skipSelect"))
         context.session.adjustSelection({itemOf(node)}, Session::Adjustment::replace);
     return node->uniqueName();
 }
@@ -100,6 +102,8 @@ MelValue setUuid(Context &context, const Arguments &arguments)
     if (nodes.size() != 1 || !nodes.front())
         throw Error("rename: One node has to be given.");
     context.scene().setUuid(nodes.front(), arguments.string("uuid"));
+    if (context.isReadingFile)
+        return MelValue();
     return nodes.front()->uniqueName();
 }
 
