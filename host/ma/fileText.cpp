@@ -133,11 +133,11 @@ std::string FileText::decodingWarning() const
     const std::size_t replaced = decoder_->replacedBytes();
     if (replaced == 0)
         return {};
-    if (!decoder_->isKnown())
-        return "The codeset \"" + codeset_ + "\" is not known; " + std::to_string(replaced) +
-               " bytes that are not UTF-8 were replaced";
-    return std::to_string(replaced) + " bytes that mean nothing in the codeset \"" +
-           (codeset_.empty() ? "UTF-8" : codeset_) + "\" were replaced";
+    const std::string codeset = codeset_.empty() ? "UTF-8" : codeset_;
+    return (decoder_->isKnown()
+                ? "Bytes that mean nothing in the codeset \"" + codeset + "\""
+                : "The codeset \"" + codeset + "\" is not known; bytes that are not UTF-8") +
+           " were replaced: " + std::to_string(replaced);
 }
 
 } // namespace host::ma

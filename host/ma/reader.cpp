@@ -165,17 +165,16 @@ void Reader::requireObjects(const mel::Statement &statement) const
     const bool isBare = std::all_of(statement.arguments.begin(), statement.arguments.end(),
                                     [](const mel::Argument &word) { return word.isFlag(); });
     if (isBare)
-        throwFileError(file_.path(), statement.line, "No objects were specified");
+        throw Error("No objects were specified");
 }
 
 // The same for these without a node to be about: they would change what is selected.
 void Reader::requireCurrentNode(const mel::Statement &statement) const
 {
     if (!currentNode_)
-        throwFileError(file_.path(), statement.line,
-                       "There is no node yet that this statement could be about");
+        throw Error("There is no node yet that this statement could be about");
     if (statement.command == "rename" && !hasFlag(statement, "-uid", "-uuid"))
-        throwFileError(file_.path(), statement.line, "A file can not rename nodes");
+        throw Error("A file can not rename nodes");
 }
 
 // The text of a file must not reach commands that it may not call.
@@ -183,8 +182,7 @@ void Reader::checkArguments(const mel::Statement &statement) const
 {
     for (const mel::Argument &argument : statement.arguments) {
         if (argument.kind == mel::Argument::Kind::call)
-            throwFileError(file_.path(), statement.line,
-                           "A scene file can not call commands for their result");
+            throw Error("A scene file can not call commands for their result");
     }
 }
 

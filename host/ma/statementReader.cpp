@@ -82,8 +82,9 @@ bool StatementReader::fetchMore()
     buffer_.erase(0, position_);
     position_ = 0;
     // Twice the text each time, so that looking for the end of a long statement again and again
-    // stays cheap.
-    return file_.fetch(std::max(kBlockBytes, buffer_.size()), buffer_);
+    // stays cheap, but not much beyond what a statement may have.
+    const std::size_t most = kMaxStatementBytes + kBlockBytes - buffer_.size();
+    return file_.fetch(std::min(std::max(kBlockBytes, buffer_.size()), most), buffer_);
 }
 
 void StatementReader::checkEnd() const

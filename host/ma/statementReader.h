@@ -13,7 +13,7 @@ namespace host::ma
 // What a statement may have at most. Maya cuts its own after some 500 numbers; these bounds keep a
 // hostile file from taking more memory than a scene of that size would.
 constexpr std::size_t kMaxStatementBytes = 64u << 20;
-constexpr std::size_t kMaxStatementTokens = 4'000'000;
+constexpr std::size_t kMaxStatementTokens = 3'000'000;
 
 struct StatementText {
     std::string_view text; // with its `;` and the comments before it
