@@ -74,8 +74,8 @@ int runInWindow(int argumentCount, char **arguments)
         } else if (!maya.interpreter().quitRequested) {
             exitCode = QApplication::exec();
         }
-        Process::stop();
     }
+    Process::stop();
     return exitCode;
 }
 

@@ -54,7 +54,10 @@ MainWindow::MainWindow(Process &process) : process_(process)
 
 MainWindow::~MainWindow()
 {
+    // The plug-ins' windows are children of this one: they go before Qt would delete them.
     Session &session = process_.session();
+    session.undo().flush();
+    process_.plugins().unloadAll();
     session.progress = nullptr;
     session.output().removeListener(outputListener_);
     session.events().remove(selectionListener_);
