@@ -39,12 +39,12 @@ std::vector<int> verticesOf(const SkinCluster &cluster, const SelectionItem &ite
 {
     const DagPath shape = visibleShape(item);
     if (shape.isNull() || shape.node() != cluster.shape())
-        throw Error("'" + uniqueName(item) + "' is not deformed by " +
+        throw Error("'" + item.names().front() + "' is not deformed by " +
                     cluster.node()->uniqueName() + ".");
     if (!item.component)
         return allVertices(cluster);
     if (item.component->kind != ComponentKind::vertex)
-        throw Error("Weights belong to vertices: " + uniqueName(item));
+        throw Error("Weights belong to vertices: " + item.names().front());
     return item.component->elements;
 }
 

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <maya/MFileIO.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "skinning/skinningScene.h"
+
+namespace
+{
+
+class bindNetwork : public skinningScene
+{
+protected:
+    void makeBodyAndJoints(const std::string &history)
+    {
+        make("polyCube -h 2 -sy 2 -n body" + history +
+             "; select -cl; group -em -n rig;"
+             "joint -p 0 -1 0 -n hip; joint -p 0 1 0 -n knee; select -cl");
+    }
+
+    // What goes into a node: "source -> plug" by line, shapes' shading left out.
+    static std::string inputs(const std::string &node)
+    {
+        MStringArray plugs;
+        MGlobal::executeCommand(("listConnections -s 1 -d 0 -p 1 -c 1 " + node).c_str(), plugs);
+        std::string text;
+        for (unsigned i = 0; i + 1 < plugs.length(); i += 2)
+            text += std::string(plugs[i + 1].asChar()) + " -> " + plugs[i].asChar() + "\n";
+        return text;
+    }
+
+    // The scene as Maya ASCII.
+    static std::string saved()
+    {
+        const std::string path = testing::TempDir() + "korvexSkinning.ma";
+        EXPECT_TRUE(MFileIO::exportAll(path.c_str(), "mayaAscii"));
+        std::ostringstream text;
+        text << std::ifstream(path).rdbuf();
+        return text.str();
+    }
+};
+
+} // namespace
+
+TEST_F(bindNetwork, isWhatMayaBuilds)
+{
+    makeBodyAndJoints("");
+    EXPECT_EQ(names("skinCluster -tsb hip knee body"), "skinCluster1");
+    const struct {
+        const char *node, *inputs;
+    } cases[] = {
+        {"bodyShape", "skinCluster1GroupId.groupId -> bodyShape.instObjGroups[0].objectGroups[0]."
+                      "objectGroupId\n"
+                      "groupId2.groupId -> bodyShape.instObjGroups[0].objectGroups[1]."
+                      "objectGroupId\n"
+                      "skinCluster1Set.memberWireframeColor -> bodyShape.instObjGroups[0]."
+                      "objectGroups[0].objectGrpColor\n"
+                      "tweakSet1.memberWireframeColor -> bodyShape.instObjGroups[0]."
+                      "objectGroups[1].objectGrpColor\n"
+                      "tweak1.vlist[0].vertex[0] -> bodyShape.tweakLocation\n"
+                      "skinCluster1.outputGeometry[0] -> bodyShape.inMesh\n"},
+        {"bodyShapeOrig", "polyCube1.output -> bodyShapeOrig.inMesh\n"},
+        {"skinCluster1", "skinCluster1GroupParts.outputGeometry -> "
+                         "skinCluster1.input[0].inputGeometry\n"
+                         "skinCluster1GroupId.groupId -> skinCluster1.input[0].groupId\n"
+                         "hip.worldMatrix[0] -> skinCluster1.matrix[0]\n"
+                         "knee.worldMatrix[0] -> skinCluster1.matrix[1]\n"
+                         "hip.lockInfluenceWeights -> skinCluster1.lockWeights[0]\n"
+                         "knee.lockInfluenceWeights -> skinCluster1.lockWeights[1]\n"
+                         "bindPose1.message -> skinCluster1.bindPose\n"
+                         "hip.objectColorRGB -> skinCluster1.influenceColor[0]\n"
+                         "knee.objectColorRGB -> skinCluster1.influenceColor[1]\n"},
+        {"skinCluster1GroupParts", "tweak1.outputGeometry[0] -> "
+                                   "skinCluster1GroupParts.inputGeometry\n"
+                                   "skinCluster1GroupId.groupId -> "
+                                   "skinCluster1GroupParts.groupId\n"},
+        {"skinCluster1Set", "bodyShape.instObjGroups[0].objectGroups[0] -> "
+                            "skinCluster1Set.dagSetMembers[0]\n"
+                            "skinCluster1GroupId.message -> skinCluster1Set.groupNodes[0]\n"
+                            "skinCluster1.message -> skinCluster1Set.usedBy[0]\n"},
+        {"tweak1", "groupParts2.outputGeometry -> tweak1.input[0].inputGeometry\n"
+                   "groupId2.groupId -> tweak1.input[0].groupId\n"},
+        {"groupParts2", "bodyShapeOrig.worldMesh[0] -> groupParts2.inputGeometry\n"
+                        "groupId2.groupId -> groupParts2.groupId\n"},
+        {"tweakSet1", "bodyShape.instObjGroups[0].objectGroups[1] -> tweakSet1.dagSetMembers[0]\n"
+                      "groupId2.message -> tweakSet1.groupNodes[0]\n"
+                      "tweak1.message -> tweakSet1.usedBy[0]\n"},
+        {"bindPose1", "rig.message -> bindPose1.members[0]\n"
+                      "hip.message -> bindPose1.members[1]\n"
+                      "knee.message -> bindPose1.members[2]\n"
+                      "bindPose1.world -> bindPose1.parents[0]\n"
+                      "bindPose1.members[0] -> bindPose1.parents[1]\n"
+                      "bindPose1.members[1] -> bindPose1.parents[2]\n"
+                      "hip.bindPose -> bindPose1.worldMatrix[1]\n"
+                      "knee.bindPose -> bindPose1.worldMatrix[2]\n"},
+    };
+    for (const auto &c : cases)
+        EXPECT_EQ(inputs(c.node), c.inputs);
+    EXPECT_EQ(number("getAttr bodyShapeOrig.intermediateObject"), 1);
+    EXPECT_EQ(names("ls -type mesh -ni"), "bodyShape");
+    EXPECT_EQ(numbers("getAttr skinCluster1.bindPreMatrix[1]")[13], -1.0);
+    EXPECT_NE(saved().find("setAttr \".xm[2]\" -type \"matrix\" \"xform\" 1 1 1 0 0 0 0 0 2 0"),
+              std::string::npos);
+}
+
+TEST_F(bindNetwork, comesAndGoesWithUndoAndUnbind)
+{
+    for (const char *history : {"", " -ch 0"}) {
+        SCOPED_TRACE(history);
+        make("file -f -new");
+        makeBodyAndJoints(history);
+        const std::string before = saved();
+        make("skinCluster -tsb -mi 2 hip knee body; skinPercent -tv hip 0.25 skinCluster1 "
+             "body.vtx[0]");
+        const std::string bound = saved();
+        make("undo");
+        EXPECT_EQ(saved(), before);
+        make("redo");
+        EXPECT_EQ(saved(), bound);
+
+        make("skinCluster -e -ub body");
+        EXPECT_EQ(names("ls -type geometryFilter -type dagPose -type groupId -type groupParts "
+                        "-type mesh"),
+                  "bodyShape");
+        EXPECT_EQ(inputs("bodyShape"), *history ? "" : "polyCube1.output -> bodyShape.inMesh\n");
+        make("undo");
+        EXPECT_EQ(saved(), bound);
+    }
+}
+
+TEST_F(bindNetwork, sharesTheBindPoseOfASkeleton)
+{
+    makeBodyAndJoints("");
+    make("polyCube -n coat; select -cl; skinCluster -tsb hip body; skinCluster hip coat");
+    EXPECT_EQ(names("ls -type dagPose"), "bindPose1");
+    EXPECT_EQ(names("skinCluster -q -inf coat"), "hip knee");
+    EXPECT_EQ(inputs("bindPose1").find("knee.message -> bindPose1.members[2]") != std::string::npos,
+              true);
+    make("skinCluster -e -ub body");
+    EXPECT_EQ(names("ls -type dagPose"), "bindPose1");
+    make("skinCluster -e -ub coat");
+    EXPECT_EQ(names("ls -type dagPose"), "");
+}
+
+// A deformer that is there already stays in front; no second intermediate shape is made.
+TEST_F(bindNetwork, continuesAChainOfDeformers)
+{
+    makeBodyAndJoints("");
+    make("skinCluster -tsb -n first hip body; createNode -ss blendShape -n morph;"
+         "connectAttr first.outputGeometry[0] morph.input[0].inputGeometry;"
+         "connectAttr -f morph.outputGeometry[0] bodyShape.inMesh;"
+         "polyCube -n other; select -cl");
+    EXPECT_EQ(refusal("skinCluster -tsb knee body"),
+              "bodyShape is already connected to a skinCluster.");
+    EXPECT_EQ(names("ls -type mesh body*"), "bodyShape bodyShapeOrig");
+    make("skinCluster -e -ub first");
+    EXPECT_EQ(inputs("morph"), "tweak1.outputGeometry[0] -> morph.input[0].inputGeometry\n");
+    make("skinCluster -tsb -n second knee body");
+    EXPECT_EQ(inputs("secondGroupParts"),
+              "morph.outputGeometry[0] -> secondGroupParts.inputGeometry\n"
+              "secondGroupId.groupId -> secondGroupParts.groupId\n");
+    EXPECT_EQ(names("ls -type mesh body*"), "bodyShape bodyShapeOrig");
+}
