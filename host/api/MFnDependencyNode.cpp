@@ -179,6 +179,10 @@ MStatus MFnDependencyNode::addAttribute(const MObject &attr)
     }
     const MStatus status = host::loudly([&] {
         const host::RecordingPause pause(*node->scene());
+        // What a node gains beyond its type is saved with it, children and all.
+        body->attribute->isDynamic = true;
+        for (const AttributePtr &child : body->attribute->children)
+            child->isDynamic = true;
         node->scene()->addAttribute(node, body->attribute);
     });
     if (status)
