@@ -106,6 +106,7 @@ void UndoQueue::flush()
 {
     done_.clear();
     undone_.clear();
+    open_.steps.clear(); // of a scene or plug-in that is about to go, like the others
 }
 
 void UndoQueue::setLength(std::size_t length)

@@ -53,6 +53,19 @@ TEST(executeCommand, recordsOneItemOrNothing)
     EXPECT_EQ(valueOf("a.ty"), 0.0);
 }
 
+// The steps of the open item once outlived their scene, and undo ran them on freed nodes.
+TEST(executeCommand, forgetsTheItemThatReplacesItsOwnScene)
+{
+    melRecorder maya;
+    maya.run("createNode transform -n a; setAttr a.tx 4; file -f -new");
+    EXPECT_EQ(undoItems(), 0);
+    EXPECT_EQ(maya.run("undo"), "Warning: There are no more commands to undo.");
+    maya.run("createNode transform -n a; setAttr a.tx 4; file -f -new; createNode transform -n b");
+    EXPECT_EQ(undoItems(), 1) << "what was recorded in the new scene";
+    maya.run("undo");
+    EXPECT_EQ(maya.run("print(`objExists b`)"), "0");
+}
+
 TEST(executeCommand, givesTheResultOfTheLastStatement)
 {
     melRecorder maya;
