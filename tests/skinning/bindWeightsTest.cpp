@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include <cstdlib>
+
 #include "skinning/skinningScene.h"
 
 namespace
@@ -46,4 +48,40 @@ TEST_F(bindWeights, dependOnDropoffPoseAndLimit)
     make("skinPercent -rtd skinCluster1 body.vtx[2]");
     EXPECT_EQ(weights("body.vtx[2]"), "0.00408163 0.991837 0.00408163");
     EXPECT_EQ(weights("body.vtx[3]"), "0 0 1");
+}
+
+// Meshes made of cylinders, cubes and spheres that Maya 2016 bound and whose weights nobody
+// touched. Resetting brings them back.
+TEST_F(bindWeights, agreeWithARealScene)
+{
+    const char *scenes = std::getenv("KORVEX_SCENES");
+    if (!scenes)
+        GTEST_SKIP() << "KORVEX_SCENES does not say where real scenes are";
+    make(std::string("file -f -o \"") + scenes + "/mesh_test_2016.ma\"");
+    const struct {
+        const char *cluster, *shape;
+    } cases[] = {{"skinCluster1", "meshShape"},
+                 {"skinCluster2", "animatedCubeShape"},
+                 {"skinCluster3", "meshAShape"},
+                 {"skinCluster5", "meshCShape"},
+                 {"skinCluster6", "meshDShape"}};
+    for (const auto &c : cases) {
+        const std::string cluster = c.cluster;
+        const std::string vertices = cluster + " " + c.shape + ".vtx[0:11]";
+        const std::string query = "getAttr " + cluster + ".weightList[0:11].weights[";
+        std::vector<std::vector<double>> saved;
+        for (int i = 0; i < 2; ++i)
+            saved.push_back(numbers(query + std::to_string(i) + "]"));
+        const std::string influences = names("skinCluster -q -inf " + cluster);
+        const std::string first = influences.substr(0, influences.find(' '));
+        make("skinPercent -tv " + first + " 1 " + vertices);
+        EXPECT_EQ(numbers(query + "0]")[11], 1.0);
+        make("skinPercent -rtd " + vertices);
+        for (int i = 0; i < 2; ++i) {
+            const std::vector<double> bound = numbers(query + std::to_string(i) + "]");
+            ASSERT_EQ(bound.size(), 12u);
+            for (std::size_t v = 0; v < bound.size(); ++v) // points are single precision
+                EXPECT_NEAR(bound[v], saved[std::size_t(i)][v], 1e-6) << cluster << " " << v;
+        }
+    }
 }
