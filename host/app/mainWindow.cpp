@@ -28,6 +28,7 @@ namespace
 constexpr int kFollowInterval = 100;
 // A file that takes longer than this shows its progress.
 constexpr int kProgressDelay = 600;
+constexpr int kOutlinerWidth = 300; // pixels
 
 const char kSceneFilter[] = "Maya ASCII (*.ma)";
 
@@ -76,6 +77,7 @@ void MainWindow::buildDocks()
     dock->setObjectName("outlinerDock");
     dock->setWidget(outliner_);
     addDockWidget(Qt::LeftDockWidgetArea, dock);
+    resizeDocks({dock}, {kOutlinerWidth}, Qt::Horizontal);
 }
 
 void MainWindow::buildFileMenu()

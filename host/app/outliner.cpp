@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "app/outliner.h"
 
+#include <QHeaderView>
 #include <QScopedValueRollback>
 #include <QTreeWidgetItemIterator>
 
@@ -20,7 +21,9 @@ Outliner::Outliner(Session &session, QWidget *parent) : QTreeWidget(parent), ses
 {
     setObjectName("outliner");
     setHeaderLabels({tr("Name"), tr("Type")});
-    setColumnWidth(0, 170);
+    header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    header()->setStretchLastSection(false);
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setUniformRowHeights(true);
     connect(this, &QTreeWidget::itemSelectionChanged, this, &Outliner::pick);
