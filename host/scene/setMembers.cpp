@@ -46,7 +46,7 @@ std::vector<std::string> componentTexts(const Plug &objectGroup)
         return texts ? *texts : std::vector<std::string>();
     };
     const std::vector<AttributePtr> &children = objectGroup.attribute->children;
-    const std::vector<std::string> own = list(evaluate(objectGroup.child(children[0])));
+    std::vector<std::string> own = list(evaluate(objectGroup.child(children[0])));
     const Connection *id = objectGroup.node->source(objectGroup.child(children[1]));
     if (!own.empty() || !id)
         return own;

@@ -68,7 +68,7 @@ NodePtr bindSkin(Scene &scene, const BindOptions &options)
     refuseShape(options.shape);
     if (options.influences.empty())
         throw Error("There is no joint to bind to.");
-    const NodePtr node = scene.createNode("skinCluster", options.name);
+    NodePtr node = scene.createNode("skinCluster", options.name);
     for (const auto &[attribute, value] : options.settings)
         scene.setValue(node->plug(attribute), value);
     scene.setValue(node->plug("useComponentsMatrix"), 1.0);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mel/commands/deformerNetwork.h"
 
+#include <algorithm>
+
 #include "scene/history.h"
 #include "scene/meshGeometry.h"
 
@@ -114,11 +116,9 @@ Plug addTweak(Scene &scene, const DagPath &shape)
 
 bool isDeformed(const Node &mesh)
 {
-    for (const NodePtr &node : geometryHistory(shapeInput(mesh))) {
-        if (node->isA("geometryFilter"))
-            return true;
-    }
-    return false;
+    const std::vector<NodePtr> history = geometryHistory(shapeInput(mesh));
+    return std::any_of(history.begin(), history.end(),
+                       [](const NodePtr &node) { return node->isA("geometryFilter"); });
 }
 
 // The set that a deformer uses; null if there is none.
