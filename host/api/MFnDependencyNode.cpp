@@ -50,6 +50,14 @@ bool isTaken(const NodePtr &node, const host::Attribute &attribute)
     return false;
 }
 
+// What a node gains beyond its type is saved with it, children and all.
+void markDynamic(host::Attribute &attribute)
+{
+    attribute.isDynamic = true;
+    for (const AttributePtr &child : attribute.children)
+        markDynamic(*child);
+}
+
 } // namespace
 
 DEFINE_FUNCTION_SET(MFnDependencyNode, MFn::kDependencyNode)
@@ -179,10 +187,7 @@ MStatus MFnDependencyNode::addAttribute(const MObject &attr)
     }
     const MStatus status = host::loudly([&] {
         const host::RecordingPause pause(*node->scene());
-        // What a node gains beyond its type is saved with it, children and all.
-        body->attribute->isDynamic = true;
-        for (const AttributePtr &child : body->attribute->children)
-            child->isDynamic = true;
+        markDynamic(*body->attribute);
         node->scene()->addAttribute(node, body->attribute);
     });
     if (status)
