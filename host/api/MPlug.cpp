@@ -12,6 +12,7 @@
 using host::answer;
 using host::Attribute;
 using host::AttributePtr;
+using host::derived;
 using host::isConnectedPlug;
 using host::Plug;
 using host::plugFor;
@@ -23,16 +24,10 @@ bool hasSource(const Plug &plug)
 {
     return plug.node->source(plug);
 }
+
 bool hasDestination(const Plug &plug)
 {
     return !plug.node->destinations(plug).empty();
-}
-bool belongsTo(const Attribute *ancestor, const Attribute *attribute)
-{
-    for (const Attribute *step = attribute; step; step = step->parent)
-        if (step == ancestor)
-            return true;
-    return false;
 }
 
 bool isOnNode(const host::NodePtr &node, const AttributePtr &attribute)
@@ -49,11 +44,6 @@ bool hasIndexOnTheWay(const Plug &plug)
         if (plug.indices[depth] != host::kNoIndex)
             return true;
     return false;
-}
-
-MPlug derived(const MPlug &from, Plug plug)
-{
-    return host::toMPlug(std::move(plug), from.isNetworked());
 }
 
 } // namespace
@@ -86,7 +76,7 @@ MStatus MPlug::setAttribute(MObject &attribute)
         return MStatus::kInvalidParameter;
     Plug changed(plug->node, hostAttribute);
     for (const Attribute *step = plug->attribute.get(); step; step = step->parent)
-        if (belongsTo(step, hostAttribute.get()))
+        if (host::isAtOrAbove(step, hostAttribute.get()))
             changed.indices[step->depth() - 1] = plug->indices[step->depth() - 1];
     *this = derived(*this, changed);
     return MStatus::kSuccess;

@@ -11,20 +11,13 @@
 using host::answer;
 using host::Attribute;
 using host::AttributePtr;
+using host::derived;
 using host::isConnectedPlug;
 using host::Plug;
 using host::plugFor;
 
 namespace
 {
-
-bool belongsTo(const Attribute *ancestor, const Attribute *attribute)
-{
-    for (const Attribute *step = attribute; step; step = step->parent)
-        if (step == ancestor)
-            return true;
-    return false;
-}
 
 // Makes an element that Maya would make, without a trace in undo.
 void createElement(const Plug &element)
@@ -35,11 +28,6 @@ void createElement(const Plug &element)
     host::Scene &scene = *element.node->scene();
     const host::RecordingPause pause(scene);
     scene.addElement(element);
-}
-
-MPlug derived(const MPlug &from, Plug plug)
-{
-    return host::toMPlug(std::move(plug), from.isNetworked());
 }
 
 template <class Test>
@@ -68,7 +56,7 @@ MStatus MPlug::selectAncestorLogicalIndex(unsigned int index, const MObject &att
         return MStatus::kFailure;
     const AttributePtr wanted = attribute.isNull() ? plug->attribute : host::attributeOf(attribute);
     const bool isArray =
-        wanted && wanted->isArray && belongsTo(wanted.get(), plug->attribute.get());
+        wanted && wanted->isArray && host::isAtOrAbove(wanted.get(), plug->attribute.get());
     if (!isArray || index > static_cast<unsigned int>(std::numeric_limits<int>::max()))
         return MStatus::kInvalidParameter;
     Plug changed = *plug;

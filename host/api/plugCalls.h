@@ -2,6 +2,8 @@
 // What the sources of MPlug share.
 #pragma once
 
+#include <utility>
+
 #include <maya/MPlug.h>
 
 #include "api/nodeBody.h"
@@ -31,6 +33,21 @@ inline const Plug *leafOf(const MPlug &plug)
     const bool isLeaf = found && !found->attribute->isCompound() && found->isComplete() &&
                         found->attribute->kind != AttributeKind::message;
     return isLeaf ? found : nullptr;
+}
+
+// True if `ancestor` is the attribute itself or lies above it.
+inline bool isAtOrAbove(const Attribute *ancestor, const Attribute *attribute)
+{
+    for (const Attribute *step = attribute; step; step = step->parent)
+        if (step == ancestor)
+            return true;
+    return false;
+}
+
+// A plug that a call made from another one: networked if that one is.
+inline MPlug derived(const MPlug &from, Plug plug)
+{
+    return toMPlug(std::move(plug), from.isNetworked());
 }
 
 inline bool isStringPlug(const Plug &plug)
