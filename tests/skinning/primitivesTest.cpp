@@ -166,6 +166,11 @@ TEST_F(primitives, followTheirAttributesUntilHistoryIsGone)
     EXPECT_EQ(text(meshOf("body").points[1]), "-1.0000 -0.5000 0.5000");
     make("undo");
     EXPECT_EQ(meshOf("body").points.length(), 8u);
+    make("polyCube -ch 0 -n box");
+    make("undo");
+    EXPECT_EQ(names("ls box*"), "");
+    make("redo");
+    EXPECT_EQ(meshOf("box").points.length(), 8u);
     EXPECT_EQ(names("polyCube -ch 0"), "pCube2");
     EXPECT_EQ(refusal("polyCube -sx 0"), "Invalid value for flag 'subdivisionsX'.");
     make("setAttr polyCube1.sw 100000000");

@@ -117,6 +117,13 @@ void shadeByDefault(Scene &scene, const NodePtr &mesh)
                   members.element(scene.nextAvailable(members)));
 }
 
+// Not recorded: undo takes the mesh away as a whole, and redo brings it back with what it holds.
+void storeNewGeometry(Scene &scene, const NodePtr &mesh, const Node &primitive)
+{
+    const RecordingPause pause(scene);
+    storeGeometry(scene, mesh, primitiveGeometry(primitive));
+}
+
 MelValue create(Context &context, const Arguments &arguments, const PrimitiveCommand &command)
 {
     Scene &scene = context.scene();
@@ -129,7 +136,7 @@ MelValue create(Context &context, const Arguments &arguments, const PrimitiveCom
     if (keepsHistory) {
         scene.connect(primitive->plug("output"), mesh->plug("inMesh"));
     } else {
-        storeGeometry(scene, mesh, primitiveGeometry(*primitive));
+        storeNewGeometry(scene, mesh, *primitive);
         scene.deleteNode(primitive);
     }
     shadeByDefault(scene, mesh);
