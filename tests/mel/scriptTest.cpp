@@ -2,7 +2,8 @@
 // Runs the scripts in tests/mel/scripts, which carry what they must show.
 //
 // Each line is executed on its own and can be undone on its own. What it shows must be what stands
-// behind its "// expect: ", nothing if it has none; several outputs are joined by " | ".
+// behind its "// expect: ", nothing if it has none; several outputs are joined by " | ", several
+// lines of one output by a literal \n.
 
 #include "mel/melRecorder.h"
 
@@ -25,6 +26,13 @@ std::vector<std::string> scripts()
     return names;
 }
 
+std::string onOneLine(std::string text)
+{
+    for (std::size_t end = text.find('\n'); end != std::string::npos; end = text.find('\n', end))
+        text.replace(end, 1, "\\n");
+    return text;
+}
+
 class melScript : public testing::TestWithParam<std::string>
 {
 };
@@ -39,7 +47,8 @@ TEST_P(melScript, showsWhatItExpects)
         const std::size_t comment = line.find(marker);
         const bool hasMarker = comment != std::string::npos;
         const std::string expected = hasMarker ? line.substr(comment + marker.size()) : "";
-        EXPECT_EQ(maya.run(line.substr(0, comment)), expected) << "line " << number << ": " << line;
+        EXPECT_EQ(onOneLine(maya.run(line.substr(0, comment))), expected)
+            << "line " << number << ": " << line;
     }
     EXPECT_TRUE(file.eof());
 }

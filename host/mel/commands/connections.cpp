@@ -25,12 +25,14 @@ std::string fullName(const Plug &plug)
     return plug.node->uniqueName() + '.' + path;
 }
 
-enum class DataClass { any, number, text, matrix };
+enum class DataClass { any, number, tuple, text, matrix };
 
 DataClass dataClassOf(const Attribute &attribute)
 {
     if (attribute.isNumber())
         return DataClass::number;
+    if (attribute.isTuple())
+        return DataClass::tuple;
     switch (attribute.kind) {
     case AttributeKind::string:
     case AttributeKind::stringList:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // parent, group, listRelatives, instanceable.
 #include <algorithm>
+#include <unordered_set>
 
 #include "mel/commands/builtInCommands.h"
 #include "mel/commands/commandSupport.h"
@@ -186,7 +187,10 @@ bool isWantedRelative(const Node &node, const Arguments &arguments)
 MelValue listRelatives(Context &context, const Arguments &arguments)
 {
     std::vector<std::string> names;
+    std::unordered_set<const Node *> seen;
     for (const DagPath &path : pathsOrSelection(context, arguments)) {
+        if (!seen.insert(path.node().get()).second)
+            continue; // another instance
         for (const DagPath &relative : relativesOf(path, arguments)) {
             if (!isWantedRelative(*relative.node(), arguments))
                 continue;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // ls: names of nodes, of what is selected, of what matches a pattern.
 #include <algorithm>
+#include <unordered_set>
 
 #include "mel/commands/builtInCommands.h"
 #include "mel/commands/commandSupport.h"
@@ -50,14 +51,41 @@ Items allNodes(const Scene &scene)
     return items;
 }
 
+// Unlike other commands, ls takes a name that several nodes have for all of them.
+Items named(const Scene &scene, std::string_view name)
+{
+    if (name.find_first_of("*?.") != std::string_view::npos)
+        return matchName(scene, name);
+    Items items;
+    for (const DagPath &path : scene.pathsMatching(name))
+        items.push_back(itemOf(path));
+    if (!items.empty() || name.find('|') != std::string_view::npos)
+        return items;
+    for (const NodePtr &node : scene.nodesNamed(name))
+        items.push_back(itemOf(node));
+    return items;
+}
+
+// Of a node with instances the first path that was found stands for all; -allPaths adds the others.
+Items oncePerNode(const Items &items)
+{
+    Items once;
+    std::unordered_set<const Node *> seen;
+    for (const SelectionItem &item : items) {
+        if (item.component || item.isPlug() || seen.insert(item.node.get()).second)
+            once.push_back(item);
+    }
+    return once;
+}
+
 // With -recursive a plain name or pattern is looked for in every namespace.
 Items matches(const Scene &scene, std::string_view pattern, bool isRecursive)
 {
-    Items items = matchName(scene, pattern);
+    Items items = named(scene, pattern);
     if (!isRecursive || pattern.find_first_of("|:.") != std::string_view::npos)
         return items;
     for (const std::string &nameSpace : scene.namespaces())
-        append(items, matchName(scene, nameSpace + ':' + std::string(pattern)));
+        append(items, named(scene, nameSpace + ':' + std::string(pattern)));
     return items;
 }
 
@@ -71,6 +99,7 @@ Items listed(Context &context, const Arguments &arguments)
         return session.hilited().items();
     for (const Operand &object : arguments.objects)
         append(items, matches(context.scene(), object.text, arguments.boolean("recursive", false)));
+    items = oncePerNode(items);
     if (arguments.has("selection")) {
         if (arguments.objects.empty())
             return session.selection().items();

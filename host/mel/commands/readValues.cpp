@@ -109,6 +109,9 @@ MelValue toNumbers(const Gathered &gathered)
 
 MelValue readValues(const PlugRange &range)
 {
+    constexpr unsigned kMaxPlugs = 10'000'000;
+    if (range.count() > kMaxPlugs)
+        throw Error("The range of '" + range.plug.name() + "' is too wide.");
     Gathered gathered;
     gathered.isArray = range.rangeDepth >= 0;
     for (unsigned i = 0; i < range.count(); ++i)

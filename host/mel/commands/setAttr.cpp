@@ -21,9 +21,10 @@ const std::vector<Flag> kFlags = {
     {"typ", "type", "s"}, {"l", "lock", "b"}, {"k", "keyable", "b"},  {"cb", "channelBox", "b"},
     {"s", "size", "i"},   {"c", "clamp"},     {"av", "alteredValue"}, {"ch", "capacityHint", "i"}};
 
-void refuseUnlessSettable(const PlugRange &range, std::string_view name)
+void refuseUnlessSettable(const PlugRange &range, std::string_view name, std::size_t values)
 {
-    for (unsigned i = 0; i < range.count(); ++i) {
+    // A range with more plugs than values is refused later, or is one opaque value.
+    for (unsigned i = 0; i < range.count() && i <= values; ++i) {
         if (!isSettable(range.at(i)))
             throw Error("setAttr: The attribute '" + std::string(name) +
                         "' is locked or connected and cannot be modified.");
@@ -160,7 +161,7 @@ MelValue setAttr(Context &context, const Arguments &arguments)
             ValueTokens tokens(values + 1, values + arguments.objects.size());
             writeValues(context.scene(), range, type, tokens);
         } else {
-            refuseUnlessSettable(range, name);
+            refuseUnlessSettable(range, name, arguments.objects.size());
             refuseWrongType(range.plug, type);
             const LimitedValues values(range, arguments);
             ValueTokens tokens = values.tokens();

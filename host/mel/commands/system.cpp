@@ -13,11 +13,11 @@ namespace
 // MAYA_API_VERSION of the headers that plug-ins are built with: release and update.
 constexpr int kApiVersion = 201700;
 
-// An array is printed line by line, a single text as it is.
+// An array is printed line by line, nothing if it is empty; a single text as it is.
 MelValue print(Context &context, const Arguments &arguments)
 {
     if (arguments.objects.empty())
-        throw Error("Wrong number of arguments on call to print.");
+        return MelValue();
     std::string text;
     const bool isArray = arguments.objects.size() > 1;
     for (const Operand &object : arguments.objects)

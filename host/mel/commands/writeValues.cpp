@@ -192,11 +192,20 @@ void writeLearned(Scene &scene, const PlugRange &range, std::string_view type, V
     apply(scene, changes);
 }
 
+bool isNumberType(std::string_view type)
+{
+    const AttributePtr attribute = type.empty() ? nullptr : makeAttribute("a", "a", type);
+    return type.empty() || (attribute && attribute->isNumber());
+}
+
 // What one complete plug that is neither learned nor packed gets.
 void takeOne(const Plug &plug, std::string_view type, ValueTokens &tokens, Changes &changes)
 {
     const Attribute &attribute = *plug.attribute;
-    if (attribute.isNumber() || attribute.isCompound()) {
+    if (attribute.isNumber() && !isNumberType(type)) {
+        // Another release may have other data here: it is kept for the next save.
+        changes.emplace_back(plug, OpaqueValue{std::string(type), tokens.rest()});
+    } else if (attribute.isNumber() || attribute.isCompound()) {
         for (const Plug &leaf : numberLeaves(plug))
             changes.emplace_back(leaf, tokens.number());
     } else if (attribute.kind == AttributeKind::message) {
