@@ -6,18 +6,13 @@
 #include "model/messages.h"
 #include "model/precisionRounding.h"
 #include "model/selectedShapes.h"
+#include "model/shapeReader.h"
 #include "model/skinClustersOfShape.h"
-#include "model/vertexRowBuilder.h"
 #include "plugin/processState.h"
 
-#include <maya/MDoubleArray.h>
 #include <maya/MFnDependencyNode.h>
-#include <maya/MFnSingleIndexedComponent.h>
 #include <maya/MFnSkinCluster.h>
 #include <maya/MGlobal.h>
-#include <maya/MIntArray.h>
-#include <maya/MItGeometry.h>
-#include <maya/MItMeshVertex.h>
 #include <maya/MSelectionList.h>
 
 namespace
@@ -41,40 +36,6 @@ void gatherShape(const selectedShape &shape, weightList &weights)
         for (unsigned int influence = 0; influence < influences.length(); ++influence)
             weights.addJointColumn(influences[influence]);
     }
-}
-
-// The vertices that the rows of a shape stand for, in row order.
-QVector<int> loadedVertices(const MDagPath &shape, const MObject &component)
-{
-    QVector<int> vertices;
-    if (component.isNull()) {
-        for (MItGeometry point(shape); !point.isDone(); point.next())
-            vertices.append(point.index());
-        return vertices;
-    }
-    const MFnSingleIndexedComponent elements(component);
-    const int count = elements.elementCount();
-    vertices.reserve(count);
-    for (int k = 0; k < count; ++k)
-        vertices.append(elements.element(k));
-    return vertices;
-}
-
-MObject allVertices(const MDagPath &shape)
-{
-    MFnSingleIndexedComponent component;
-    const MObject object = component.create(MFn::kMeshVertComponent);
-    component.setCompleteData(MItMeshVertex(shape).count());
-    return object;
-}
-
-QVector<int> columnsOfInfluences(const MObject &skinCluster, const weightList &weights)
-{
-    const MDagPathArray influences = influencesOf(skinCluster);
-    QVector<int> columns;
-    for (unsigned int i = 0; i < influences.length(); ++i)
-        columns.append(weights.jointColumnOf(influences[i]));
-    return columns;
 }
 
 } // namespace
@@ -112,35 +73,23 @@ void weightTableModel::refreshSkinClusterData()
 void weightTableModel::appendShapeBlock(int shape, wholeListRounding &rounding)
 {
     const MDagPath &path = weights_.shapePaths[shape];
-    const MObject &component = weights_.shapeComponents[shape];
     const int shapeRowIndex = static_cast<int>(weights_.rows.size());
     weights_.shapeRows.append(shapeRowIndex);
     weights_.rowNames.appendShape(textOf(MFnDependencyNode(path.node()).name()));
     weights_.rows.append(shapeRow(weights_.jointCount()));
 
-    MDoubleArray read;
-    unsigned int influenceCount = 0;
-    MFnSkinCluster(weights_.skinClusters[shape])
-        .getWeights(path, component.isNull() ? allVertices(path) : component, read, influenceCount);
-    const QVector<int> columns = columnsOfInfluences(weights_.skinClusters[shape], weights_);
-    const QVector<int> vertices = loadedVertices(path, component);
-    // Not so for what is no mesh, or could not be read: its block has no vertex rows.
-    if (vertices.isEmpty() || static_cast<int>(influenceCount) != columns.size() ||
-        read.length() != static_cast<unsigned int>(vertices.size()) * influenceCount)
-        return;
-
-    const vertexRowBuilder builder(shape, weights_.jointCount(), columns);
+    shapeReader reader(weights_, shape);
     const double tolerance = normalizationTolerance(settings_.precision);
     bool isNormalizedShape = true;
-    weights_.rows.reserve(shapeRowIndex + 1 + vertices.size());
-    weights_.rowNames.reserve(shapeRowIndex + 1 + vertices.size());
-    for (int k = 0; k < vertices.size(); ++k) {
+    weights_.rows.reserve(shapeRowIndex + 1 + reader.vertexCount());
+    weights_.rowNames.reserve(shapeRowIndex + 1 + reader.vertexCount());
+    for (int k = 0; k < reader.vertexCount(); ++k) {
         double sum = 0.0;
-        weightRow row = builder.build(&read[k * influenceCount], &sum);
+        weightRow row = reader.row(k, &sum);
         isNormalizedShape = isNormalizedShape && isNormalized(sum, tolerance);
         rounding.apply(row);
         weights_.rows.append(row);
-        weights_.rowNames.appendVertex(vertices.at(k));
+        weights_.rowNames.appendVertex(reader.vertex(k));
     }
     if (!isNormalizedShape)
         weights_.rows[shapeRowIndex][0] = kUnnormalizedShapeTag;
