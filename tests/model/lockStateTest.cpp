@@ -28,27 +28,34 @@ TEST(lockState, keepsOrderAndRepetitions)
 {
     lockState locks;
     locks.lockJoint(3);
-    locks.lockJoint(-1);
+    locks.lockJoint(1);
     locks.lockJoint(3);
-    EXPECT_EQ(locks.joints(), (QList<int>{3, -1, 3}));
-    EXPECT_FALSE(locks.isEmpty());
+    EXPECT_EQ(locks.joints(), (QList<int>{3, 1, 3}));
 
     locks.unlockJoint(3);
-    EXPECT_FALSE(locks.isJointLocked(3));
-    EXPECT_EQ(locks.joints(), QList<int>{-1});
+    locks.lockJoint(3);
+    EXPECT_EQ(locks.joints(), (QList<int>{1, 3}));
 }
 
-TEST(lockState, unlocksACellOncePerLock)
+TEST(lockState, takesAJointThatIsNotLoadedForNoLock)
+{
+    lockState locks;
+    locks.lockJoint(-1);
+    EXPECT_TRUE(locks.isEmpty());
+    EXPECT_EQ(locks.joints(), QList<int>());
+    EXPECT_FALSE(locks.isLocked(0, 0));
+}
+
+TEST(lockState, unlocksACellHoweverOftenItWasLocked)
 {
     lockState locks;
     locks.lockCell(4, 1);
+    locks.lockCell(2, 0);
     locks.lockCell(4, 1);
     locks.unlockCell(4, 1);
-    EXPECT_TRUE(locks.isCellLocked(4, 1));
-    locks.unlockCell(4, 1);
-    locks.unlockCell(4, 1);
     EXPECT_FALSE(locks.isCellLocked(4, 1));
-    EXPECT_TRUE(locks.isEmpty());
+    EXPECT_TRUE(locks.isCellLocked(2, 0));
+    EXPECT_EQ(locks.cells().size(), 1);
 }
 
 TEST(lockState, forgetsEverythingWhenCleared)
