@@ -65,6 +65,19 @@ void checkWrite(const SkinCluster &cluster, const std::vector<int> &vertices,
         throw Error("A weight is not a number.");
 }
 
+// The path whose matrix arrives: worldMatrix[1] is that of a joint's second instance.
+DagPath pathOf(const Connection &source)
+{
+    const NodePtr node = source.node->shared_from_this();
+    const int instance = source.attribute->isPerInstance ? source.indices[0] : 0;
+    if (instance > 0) {
+        const std::vector<DagPath> paths = DagPath::all(node);
+        if (std::size_t(instance) < paths.size())
+            return paths[std::size_t(instance)];
+    }
+    return DagPath::first(node);
+}
+
 } // namespace
 
 // What creating weights "from thin air" needs, gathered at the first vertex that asks for it.
@@ -86,7 +99,7 @@ SkinCluster::SkinCluster(NodePtr node) : node_(std::move(node))
         if (columnOfLogical_.size() <= std::size_t(index))
             columnOfLogical_.resize(std::size_t(index) + 1, -1);
         columnOfLogical_[std::size_t(index)] = std::int32_t(influences_.size());
-        influences_.push_back({unsigned(index), DagPath::first(source->node->shared_from_this())});
+        influences_.push_back({unsigned(index), pathOf(*source)});
     }
 }
 
