@@ -197,6 +197,20 @@ std::vector<NodePtr> skinClustersOf(const Node &mesh)
     return clusters;
 }
 
+namespace
+{
+
+// Whether something of what the node gives out is made from the geometry that comes in at `input`.
+bool passesGeometryOn(const Node &node, const Plug &input)
+{
+    const auto &outputs = node.allDestinations();
+    return std::any_of(outputs.begin(), outputs.end(), [&](const auto &output) {
+        return geometryInputFor(node.plugOf(output.first)) == input;
+    });
+}
+
+} // namespace
+
 NodePtr deformedShape(const Node &skinCluster)
 {
     std::vector<const Node *> visited{&skinCluster};
@@ -206,14 +220,8 @@ NodePtr deformedShape(const Node &skinCluster)
                 Node *node = end.node;
                 if (node->isA("shape") && end.plug() == shapeInput(*node))
                     return node->shared_from_this();
-                // Onwards only along geometry: through plugs that feed an output of the node.
-                Plug output(node->shared_from_this(), node->findAttribute("outputGeometry"));
-                if (output.isNull() ||
-                    std::find(visited.begin(), visited.end(), node) != visited.end())
-                    continue;
-                output.indices[0] =
-                    output.attribute->isArray ? std::max(0, end.indices[0]) : kNoIndex;
-                if (geometryInputFor(output) == end.plug())
+                const bool isNew = std::find(visited.begin(), visited.end(), node) == visited.end();
+                if (isNew && passesGeometryOn(*node, end.plug()))
                     visited.push_back(node);
             }
         }
