@@ -3,7 +3,7 @@
 #pragma once
 
 #include "ma/valueWriter.h"
-#include "skin/weightStore.h"
+#include "scene/node.h"
 
 namespace host::ma
 {
