@@ -63,10 +63,23 @@ MPlug plugOf(const MObject &skinCluster, const char *name)
 void addMissingLockAttributes(const MObject &skinCluster)
 {
     MFnDependencyNode node(skinCluster);
+    // Maya would show an error for each.
+    if (node.isLocked())
+        return;
     for (const auto &attribute : kAttributes) {
         if (!node.hasAttribute(attribute.name))
             node.addAttribute(attribute.create());
     }
+}
+
+bool hasLockAttributes(const MObject &skinCluster)
+{
+    const MFnDependencyNode node(skinCluster);
+    for (const auto &attribute : kAttributes) {
+        if (!node.hasAttribute(attribute.name))
+            return false;
+    }
+    return true;
 }
 
 MStringArray storedJointLocks(const MObject &skinCluster)

@@ -30,6 +30,8 @@ struct storedCellLock {
 // Adds whichever of the three attributes the skin cluster lacks. A node that takes no attribute (it
 // is locked) stays as it is; its locks read as none.
 void addMissingLockAttributes(const MObject &skinCluster);
+// Whether it has all three.
+bool hasLockAttributes(const MObject &skinCluster);
 
 // What is stored, in the order of the elements.
 MStringArray storedJointLocks(const MObject &skinCluster);
