@@ -54,6 +54,12 @@ inline bool isShapeRowCell(double cell)
     return cell == kShapeRowTag;
 }
 
+// Whether the cell holds a weight, and the table a number there.
+inline bool isWeightCell(double cell)
+{
+    return !isInert(cell) && !isShapeRowCell(cell);
+}
+
 // The place in a row of a joint column's cell.
 inline int entryOf(int column)
 {
