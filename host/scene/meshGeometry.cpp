@@ -20,7 +20,8 @@ bool storesPoints(const Node &mesh)
     return points && points->elementCount() > 0;
 }
 
-// The shape or primitive that the points of `mesh` are stored in or made by; null if there is none.
+} // namespace
+
 NodePtr geometrySource(const Node &mesh)
 {
     NodePtr shape = std::const_pointer_cast<Node>(mesh.shared_from_this());
@@ -35,6 +36,9 @@ NodePtr geometrySource(const Node &mesh)
     }
     return nullptr;
 }
+
+namespace
+{
 
 // As many vertices as the nearest skin cluster has rows; 0 without one.
 unsigned weightListCount(const Node &mesh)

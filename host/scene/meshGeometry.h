@@ -26,6 +26,8 @@ struct MeshGeometry {
 
 // The geometry that the mesh shows. REQUIRES: mesh.isA("mesh").
 MeshGeometry meshGeometry(const Node &mesh);
+// The mesh or primitive that the points and faces are stored in or made by; null if there is none.
+NodePtr geometrySource(const Node &mesh);
 // Only the counts, without decoding points and faces.
 unsigned vertexCount(const Node &mesh);
 // Vertices that share an edge, ascending per vertex.

@@ -72,6 +72,9 @@ public:
     Value storedValue(const Plug &plug) const;
     // The block behind a packed array, or null.
     const PackedNumbers *numbers(const Plug &wholeArray) const;
+    // Grows with every change of what is stored in the node, by undo and redo too. Connections and
+    // states do not count.
+    unsigned long dataRevision() const { return dataRevision_; }
     // Existing elements of an array: set, read or connected; ascending logical indices.
     std::vector<int> elementIndices(const Plug &wholeArray) const;
     std::size_t elementCount(const Plug &wholeArray) const;
@@ -113,6 +116,7 @@ private:
     bool isDefault_ = false;
     bool isShared_ = false;
     unsigned long serial_ = 0; // place in the scene's order of creation
+    unsigned long dataRevision_ = 0;
     unsigned nextAttributeOrder_ = 0;
     std::vector<std::string> keptStatements_;
     std::vector<AttributePtr> ownAttributes_;

@@ -33,6 +33,7 @@ struct SceneEdit {
 
     static void restore(Node &node, const Attribute *top, const Snapshot &snapshot)
     {
+        ++node.dataRevision_;
         if (snapshot.datum)
             node.data_[top] = *snapshot.datum;
         else
@@ -46,6 +47,7 @@ struct SceneEdit {
     static void run(Scene &scene, const NodePtr &node, const AttributePtr &attribute,
                     Function change)
     {
+        ++node->dataRevision_;
         if (!scene.isRecording()) {
             change();
             scene.isModified_ = true;

@@ -1,10 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "scene/session.h"
 
+#include "scene/adjacencyCache.h"
+#include "scene/toolState.h"
+
 namespace host
 {
 
-Session::Session(Mode mode) : mode_(mode), scene_(std::make_unique<Scene>())
+Session::Session(Mode mode)
+    : mode_(mode), scene_(std::make_unique<Scene>()),
+      tools_(std::make_unique<ToolState>(undo_, events_)),
+      adjacencies_(std::make_unique<AdjacencyCache>())
 {
     scene_->setRecorder(&undo_);
 }

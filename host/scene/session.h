@@ -18,6 +18,9 @@
 namespace host
 {
 
+class AdjacencyCache;
+class ToolState;
+
 // Called while a long file is read or written: bytes done and in all. False cancels.
 using ProgressFunction = std::function<bool(std::size_t done, std::size_t total)>;
 
@@ -33,7 +36,9 @@ public:
     UndoQueue &undo() { return undo_; }
     Events &events() { return events_; }
     Output &output() { return output_; }
-    ProgressFunction progress; // may be empty
+    ToolState &tools() { return *tools_; }                  // scene/toolState.h
+    AdjacencyCache &adjacencies() { return *adjacencies_; } // scene/adjacencyCache.h
+    ProgressFunction progress;                              // may be empty
 
     // --- The file -----------------------------------------------------------------------------
     // Empty for a scene that has no file yet. An absolute path otherwise.
@@ -78,6 +83,8 @@ private:
     UndoQueue undo_;
     Events events_;
     Output output_;
+    std::unique_ptr<ToolState> tools_;
+    std::unique_ptr<AdjacencyCache> adjacencies_;
     std::string fileName_;
     SelectionList selection_;
     SelectionList ordered_;
