@@ -95,11 +95,12 @@ mel::MelValue call(Process &process, const PluginCommand &registration, const MS
         ParsedArguments(tableOf(syntax), valuesOf(arguments), selectedNames());
     const auto object = std::make_shared<CommandObject>(registration, syntax);
     const Execution execution(process, object->plugin());
+    UndoQueue &queue = process.session().undo();
+    const std::size_t place = queue.openSteps();
     if (!object->command().doIt(arguments))
         throw Error(std::string()); // the command has said why, or wants nothing said
-    UndoQueue &queue = process.session().undo();
     if (object->command().isUndoable() && queue.isRecording())
-        queue.record(makeStep(process, object));
+        queue.recordAt(place, makeStep(process, object));
     return process.commandResult;
 }
 

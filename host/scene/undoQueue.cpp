@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "scene/undoQueue.h"
 
+#include <algorithm>
+
 namespace host
 {
 
@@ -48,10 +50,17 @@ void UndoQueue::closeChunk()
 
 void UndoQueue::record(UndoStep step)
 {
+    recordAt(open_.steps.size(), std::move(step));
+}
+
+void UndoQueue::recordAt(std::size_t place, UndoStep step)
+{
     if (!isRecording())
         return;
     undone_.clear();
-    open_.steps.push_back(std::move(step));
+    // A flush may have taken the steps before the place.
+    const std::size_t offset = std::min(place, open_.steps.size());
+    open_.steps.insert(open_.steps.begin() + std::ptrdiff_t(offset), std::move(step));
 }
 
 void UndoQueue::rollback(std::size_t steps)

@@ -41,6 +41,9 @@ public:
     void closeChunk();
     // Inside a chunk only; clears the redo side.
     void record(UndoStep step);
+    // The same, in front of the steps that were recorded after the first `place` ones: a command's
+    // own step goes before those of the commands that it ran, and is thus undone after them.
+    void recordAt(std::size_t place, UndoStep step);
     // How many steps the open chunk holds; rollback(n) undoes and drops those after the first n.
     std::size_t openSteps() const { return open_.steps.size(); }
     void rollback(std::size_t steps);
