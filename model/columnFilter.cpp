@@ -5,7 +5,6 @@
 #include <QHeaderView>
 #include <QTableView>
 
-#include "model/emptyColumns.h"
 #include "model/messages.h"
 
 #include <maya/MGlobal.h>
@@ -28,15 +27,21 @@ void weightTableModel::setUpColumn()
 
 void weightTableModel::applyColumnFilter()
 {
+    // Finding the empty columns means reading the table, so only who wants to hide them pays.
+    if (isFiltering_)
+        emptyColumns_.find(weights_.rows, columnCount());
+    showFilteredColumns();
+}
+
+void weightTableModel::showFilteredColumns()
+{
     if (!view_)
         return;
-    // Finding them means reading the table, so only who wants to hide them pays for it.
-    emptyColumns_ = isFiltering_ ? emptyColumns(weights_.rows, columnCount()) : QList<int>();
-
+    const QList<int> hidden = isFiltering_ ? emptyColumns_.columns() : QList<int>();
     QHeaderView *header = view_->horizontalHeader();
-    QList<int>::const_iterator nextEmpty = emptyColumns_.constBegin();
+    QList<int>::const_iterator nextEmpty = hidden.constBegin();
     for (int column = 0; column < header->count(); ++column) {
-        const bool isEmpty = nextEmpty != emptyColumns_.constEnd() && *nextEmpty == column;
+        const bool isEmpty = nextEmpty != hidden.constEnd() && *nextEmpty == column;
         if (isEmpty) {
             header->setSectionHidden(column, true);
             ++nextEmpty;

@@ -30,6 +30,7 @@ void gatherShape(const selectedShape &shape, weightList &weights)
     const MObjectArray skinClusters = skinClustersOfShape(shape.path);
     for (unsigned int i = 0; i < skinClusters.length(); ++i) {
         weights.skinClusters.append(skinClusters[i]);
+        weights.skinClusterHandles.append(MObjectHandle(skinClusters[i]));
         weights.shapePaths.append(shape.path);
         weights.shapeComponents.append(shape.component);
         const MDagPathArray influences = influencesOf(skinClusters[i]);
@@ -52,6 +53,7 @@ void weightTableModel::refreshSkinClusterData()
         roundLoadedRows(rounding);
     } else {
         weights_ = weightList();
+        forgetSnapshots();
         const QVector<selectedShape> shapes = selectedShapes(selection);
         for (int i = 0; i < shapes.size(); ++i)
             gatherShape(shapes.at(i), weights_);
@@ -80,19 +82,23 @@ void weightTableModel::appendShapeBlock(int shape, wholeListRounding &rounding)
 
     shapeReader reader(weights_, shape);
     const double tolerance = normalizationTolerance(settings_.precision);
-    bool isNormalizedShape = true;
+    QSet<int> unnormalizedRows;
     weights_.rows.reserve(shapeRowIndex + 1 + reader.vertexCount());
     weights_.rowNames.reserve(shapeRowIndex + 1 + reader.vertexCount());
     for (int k = 0; k < reader.vertexCount(); ++k) {
         double sum = 0.0;
         weightRow row = reader.row(k, &sum);
-        isNormalizedShape = isNormalizedShape && isNormalized(sum, tolerance);
+        if (!isNormalized(sum, tolerance))
+            unnormalizedRows.insert(shapeRowIndex + 1 + k);
         rounding.apply(row);
+        if (rounding.metRowWithoutWeight() && weights_.notes.firstRowWithoutWeight < 0)
+            weights_.notes.firstRowWithoutWeight = shapeRowIndex + 1 + k;
         weights_.rows.append(row);
         weights_.rowNames.appendVertex(reader.vertex(k));
     }
-    if (!isNormalizedShape)
+    if (!unnormalizedRows.isEmpty())
         weights_.rows[shapeRowIndex][0] = kUnnormalizedShapeTag;
+    weights_.notes.unnormalizedRows.append(unnormalizedRows);
 }
 
 // Rows that do not change go on sharing their memory with the snapshot.

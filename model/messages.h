@@ -8,9 +8,63 @@ const char kNoCellSelected[] = "There is no cell selected.";
 // Rounding.
 const char kRowWithoutColumns[] = "This row doesn't have more than 2 columns.";
 const char kRowWithoutWeight[] = "There is something wrong accessing weight data.";
+const char kNoCellToDeductFrom[] = "Could not find proper cell to deduct weight.";
+
+// Typed values.
+const char kValueOutOfRange[] = "The value entered has to be between 0.0 and 1.0.";
+
+// Edits on their way into a skin cluster.
+const char kDataNotSetUp[] = "Data was not set up properly before executing this command. Please "
+                             "reload data into korvex.";
+const char kNothingToUndo[] =
+    "Nothing to undo, there is something wrong with getting the bottomRight Index!";
+const char kNoRowNumber[] = "There is an error getting row number";
+const char kNoEditableCell[] = "This is not a valid cell to edit.";
+const char kNoVertexNumber[] = "There is something wrong accessing the vertex number.";
+const char kNoJointIndex[] = "There is something wrong getting the joint index.";
+const char kNoShapeIndex[] = "There is an error accessing shape index.";
+const char kUnreadableVertexIndex[] = "There is some error with parsing the vertex index value.";
+const char kNoInfluence[] = "Could not find the influence.";
+const char kNormalizationFixed[] =
+    "The normalizeWeights attribute of ^1s cannot be set, so no weight was written."; // ^1s: node
+
+// Locks.
+const char kNothingToLock[] =
+    "There is nothing to lock. Please select joint column or vertex row to lock.";
+const char kNothingSelectedToUnlock[] =
+    "There is nothing to unlock. Please select locked joint column or vertex row to unlock.";
+const char kNothingToUnlock[] = "There is nothing to unlock.";
+const char kJointAlreadyLocked[] = "This joint has already been locked.";
+const char kRowAlreadyLocked[] = "This row has already been locked.";
+const char kVertexAlreadyLocked[] = "This vertex has already been locked.";
+const char kShapeRowForLocking[] =
+    "A shape row is selected for locking. Please only select vertex row for locking.";
+const char kShapeRowForUnlocking[] =
+    "A shape row is selected for unlocking. Please select the vertex row to unlock.";
+const char kShapeAmongLockedRows[] = "A shape was mistakenly added into locked vertices array.";
+const char kCellNotLocked[] = "The selected cell is not in the locked list.";
+const char kJointNotLocked[] = "The selected joint is not in the locked list.";
+const char kVertexNotLocked[] = "The selected vertex is not in the locked list.";
+const char kShapeNotInTable[] = "There is something wrong finding the shape in the weightList.";
+const char kLocksNotStored[] = // ^1s: a skin cluster
+    "The locks could not be stored on ^1s: it is locked or cannot be written to. They are lost "
+    "when "
+    "the table is loaded again.";
+
+// Precision and snapshots.
+const char kInvalidPrecision[] = "The precision value is not set up correctly.";
+const char kNoWeightList[] = "There is no weight list data.";
+const char kPrecisionWhileLocked[] =
+    "There is locked joint or vertex, please unlock all and then set precision.";
+const char kWeightsOutOfRange[] = // ^1s: a number of rows
+    "Rounding leaves ^1s vertices with a weight outside 0 to 1. Maya may write other weights "
+    "there.";
+const char kNothingToCache[] = "There is no weight to be cached.";
+const char kCannotRestoreWeights[] = "There is a problem with restoring weight data.";
+const char kArraysDiffer[] =
+    "Weight list length and Joint list length doesn't match for this component.";
 
 // The command without a place to act on.
 const char kNoUserInterface[] = "korvexCmd needs Maya's user interface.";
 const char kWindowNeverOpened[] =
     "The Korvex window has not been opened yet. Run korvexCmd without flags first.";
-const char kFlagWithoutEdit[] = "korvexCmd: ^1s carries no edit yet."; // ^1s: the flag

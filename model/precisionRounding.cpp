@@ -66,6 +66,30 @@ void giveResidual(weightRow &row, int entry)
     row[entry] = residualBeside(sumOfOthers);
 }
 
+bool roundEditedRow(weightRow &row, int places, const std::function<bool(int column)> &mayTake)
+{
+    weightRounder(places).roundRow(row);
+    int weightCount = 0;
+    int chosen = -1;
+    for (int column = 0; hasCell(row, column); ++column) {
+        if (!(cellOf(row, column) > 0.0))
+            continue;
+        ++weightCount;
+        if (chosen < 0 && mayTake(column))
+            chosen = column;
+    }
+    if (weightCount < 2)
+        return true;
+    if (chosen < 0)
+        return false;
+    const int firstEqual = static_cast<int>(row.indexOf(cellOf(row, chosen), entryOf(0)));
+    giveResidual(row, firstEqual);
+    // A row far from normalized could end with what means something else.
+    if (isShapeRowCell(row.at(firstEqual)) || isInert(row.at(firstEqual)))
+        row[firstEqual] = 0.0;
+    return true;
+}
+
 wholeListRounding::wholeListRounding(int places)
     : rounder_(places), residualMargin_(residualMargin(places))
 {

@@ -9,6 +9,8 @@
 
 #include "model/weightRow.h"
 
+#include <functional>
+
 // What a row holds once it is rounded.
 struct roundedRow {
     int lastEntry;        // of its last weight, -1 if it has none
@@ -41,6 +43,16 @@ double residualBeside(double sumOfOthers);
 // Gives `entry` what the row's other weights leave of 1.0.
 void giveResidual(weightRow &row, int entry);
 
+// The pass over one row that was just edited: rounds it and gives the residual to the first of its
+// weights that `mayTake` allows. A row of fewer than two weights is only rounded. False if there
+// are two or more and none may take it.
+//
+// Deliberate: the residual goes to the first weight that is equal to the chosen one, which may be
+// one that may not take it. Pinned by the test roundEditedRow.givesTheResidualToTheFirstEqual.
+//
+// REQUIRES: places >= 1.
+bool roundEditedRow(weightRow &row, int places, const std::function<bool(int column)> &mayTake);
+
 // The pass over a whole list that was read from the scene: rounds each row and then, if the row's
 // sum is off 1.0 by no more than rounding explains, gives the residual to its last weight. Rows are
 // handed over one by one, in table order, so that a load can round each while it is at hand.
@@ -52,6 +64,9 @@ class wholeListRounding
 public:
     // REQUIRES: places >= 1.
     explicit wholeListRounding(int places);
+
+    // Goes on as behind a row without weight.
+    void endResiduals() { metRowWithoutWeight_ = true; }
 
     // A shape row stays as it is.
     void apply(weightRow &row);

@@ -4,7 +4,10 @@
 
 #include "model/lockAttributes.h"
 #include "model/mayaText.h"
+#include "model/messages.h"
 #include "model/vertexRowFinder.h"
+
+#include <maya/MGlobal.h>
 
 namespace
 {
@@ -45,6 +48,11 @@ void weightTableModel::checkLockAttr()
 {
     locks_.clear();
     for (int shape = 0; shape < weights_.shapeCount(); ++shape) {
+        // Also where a kept table outlived its mesh.
+        if (!weights_.isInScene(shape)) {
+            MGlobal::displayError(kShapeNotInTable);
+            return;
+        }
         addMissingLockAttributes(weights_.skinClusters[shape]);
         vertexRowFinder rows(weights_.rowNames, weights_.firstVertexRow(shape),
                              weights_.endOfVertexRows(shape));

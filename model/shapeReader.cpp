@@ -36,6 +36,15 @@ MObject allVertices(const MDagPath &shape)
     return object;
 }
 
+MObject componentOf(const QVector<int> &vertices)
+{
+    MFnSingleIndexedComponent component;
+    const MObject object = component.create(MFn::kMeshVertComponent);
+    for (int i = 0; i < vertices.size(); ++i)
+        component.addElement(vertices.at(i));
+    return object;
+}
+
 } // namespace
 
 QVector<int> columnsOfInfluences(const MObject &skinCluster, const weightList &weights)
@@ -51,16 +60,31 @@ QVector<int> columnsOfInfluences(const MObject &skinCluster, const weightList &w
 shapeReader::shapeReader(const weightList &weights, int shape)
     : builder_(shape, weights.jointCount(), QVector<int>())
 {
+    if (!weights.isInScene(shape))
+        return;
     const MDagPath &path = weights.shapePaths[shape];
     const MObject &component = weights.shapeComponents[shape];
+    read(weights, shape, loadedVertices(path, component),
+         component.isNull() ? allVertices(path) : component);
+}
+
+shapeReader::shapeReader(const weightList &weights, int shape, const QVector<int> &vertices)
+    : builder_(shape, weights.jointCount(), QVector<int>())
+{
+    if (weights.isInScene(shape))
+        read(weights, shape, vertices, componentOf(vertices));
+}
+
+void shapeReader::read(const weightList &weights, int shape, const QVector<int> &vertices,
+                       const MObject &component)
+{
     const QVector<int> columns = columnsOfInfluences(weights.skinClusters[shape], weights);
     if (columns.contains(-1))
         return;
-    MFnSkinCluster(weights.skinClusters[shape])
-        .getWeights(path, component.isNull() ? allVertices(path) : component, weights_,
-                    influenceCount_);
-    const QVector<int> vertices = loadedVertices(path, component);
-    if (static_cast<int>(influenceCount_) != columns.size() ||
+    const MStatus status =
+        MFnSkinCluster(weights.skinClusters[shape])
+            .getWeights(weights.shapePaths[shape], component, weights_, influenceCount_);
+    if (!status || static_cast<int>(influenceCount_) != columns.size() ||
         weights_.length() != static_cast<unsigned int>(vertices.size()) * influenceCount_)
         return;
     vertices_ = vertices;

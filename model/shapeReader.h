@@ -20,15 +20,20 @@ public:
     // REQUIRES: the list's joint columns hold all influences of the shape, unless they changed
     // since the list was loaded.
     shapeReader(const weightList &weights, int shape);
+    // Only these of its vertices, which are to ascend.
+    shapeReader(const weightList &weights, int shape, const QVector<int> &vertices);
 
     // Zero for what is no mesh, could not be read, or has influences that are not loaded.
     int vertexCount() const { return static_cast<int>(vertices_.size()); }
-    // The number of the k-th of the shape's loaded vertices.
+    // The number of the k-th vertex that was read.
     int vertex(int k) const { return vertices_.at(k); }
     // Its row; `sum` receives the sum of its weights.
     weightRow row(int k, double *sum);
 
 private:
+    void read(const weightList &weights, int shape, const QVector<int> &vertices,
+              const MObject &component);
+
     QVector<int> vertices_;
     vertexRowBuilder builder_;
     MDoubleArray weights_; // vertex by vertex, one weight per influence

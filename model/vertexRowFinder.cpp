@@ -6,15 +6,24 @@ vertexRowFinder::vertexRowFinder(const rowNameList &names, int firstRow, int end
 {
 }
 
-int vertexRowFinder::rowOf(int vertex)
+int vertexRowFinder::rowOf(int vertex) const
 {
     if (vertex < 0)
         return -1;
-    if (vertex < endRow_ - firstRow_ && names_.vertex(firstRow_ + vertex) == vertex)
-        return firstRow_ + vertex;
-    if (rowByVertex_.isEmpty()) {
-        for (int row = firstRow_; row < endRow_; ++row)
-            rowByVertex_.insert(names_.vertex(row), row);
+    // Its place if the whole shape is loaded; if not, it can only stand further up.
+    int first = firstRow_;
+    int end = endRow_;
+    if (vertex < end - first) {
+        end = first + vertex;
+        if (names_.vertex(end) == vertex)
+            return end;
     }
-    return rowByVertex_.value(vertex, -1);
+    while (first < end) {
+        const int middle = first + (end - first) / 2;
+        if (names_.vertex(middle) < vertex)
+            first = middle + 1;
+        else
+            end = middle;
+    }
+    return first < endRow_ && names_.vertex(first) == vertex ? first : -1;
 }

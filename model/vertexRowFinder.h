@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 // Finds the table row of a vertex within one shape's block of vertex rows.
 //
-// Where the whole shape is loaded the row follows from the number. Where some vertices are, an
-// index is built at the first question that needs it. Valid as long as the names are not changed.
-// Needs neither Maya nor a widget.
+// Where the whole shape is loaded the row follows from the number; where some vertices are, it is
+// searched for, since they ascend. Needs neither Maya nor a widget.
 #pragma once
 
 #include "model/rowNameList.h"
-
-#include <QHash>
 
 class vertexRowFinder
 {
@@ -17,11 +14,10 @@ public:
     vertexRowFinder(const rowNameList &names, int firstRow, int endRow);
 
     // The vertex's row; -1 if it is not loaded.
-    int rowOf(int vertex);
+    int rowOf(int vertex) const;
 
 private:
     const rowNameList &names_;
     int firstRow_;
     int endRow_;
-    QHash<int, int> rowByVertex_;
 };

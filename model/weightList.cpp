@@ -7,6 +7,12 @@
 #include <maya/MFnDagNode.h>
 #include <maya/MString.h>
 
+bool weightList::isInScene(int shape) const
+{
+    return skinClusterHandles.at(shape).isValid() &&
+           shapePaths[static_cast<unsigned int>(shape)].isValid();
+}
+
 int weightList::endOfVertexRows(int shape) const
 {
     const int next = shape + 1;

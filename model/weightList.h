@@ -15,16 +15,19 @@
 #include <QStringList>
 #include <QVector>
 
+#include "model/refreshNotes.h"
 #include "model/rowNameList.h"
 #include "model/weightRow.h"
 
 #include <maya/MDagPath.h>
 #include <maya/MDagPathArray.h>
 #include <maya/MObjectArray.h>
+#include <maya/MObjectHandle.h>
 
 struct weightList {
     // Per shape. A component is null where the whole shape was loaded, else its loaded vertices.
     MObjectArray skinClusters;
+    QVector<MObjectHandle> skinClusterHandles; // the same nodes
     MDagPathArray shapePaths;
     MObjectArray shapeComponents;
     QVector<int> shapeRows; // table row of the shape row
@@ -38,9 +41,13 @@ struct weightList {
     // Per row.
     rowNameList rowNames;
     weightRows rows;
+    refreshNotes notes;
 
     int shapeCount() const { return static_cast<int>(skinClusters.length()); }
     int jointCount() const { return static_cast<int>(jointPaths.length()); }
+
+    // False once the shape or its skin cluster was deleted or replaced: they are not to be asked.
+    bool isInScene(int shape) const;
 
     // The rows [firstVertexRow, endOfVertexRows) are the shape's vertices.
     int firstVertexRow(int shape) const { return shapeRows.at(shape) + 1; }

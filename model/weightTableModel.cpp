@@ -19,7 +19,8 @@ const int kDefaultMaxInfluences = 4;
 } // namespace
 
 weightTableModel::weightTableModel(QObject *parent)
-    : QAbstractTableModel(parent), previousMaxInfluences_(kDefaultMaxInfluences)
+    : QAbstractTableModel(parent), previousMaxInfluences_(kDefaultMaxInfluences),
+      previousPrecision_(kDefaultPrecision)
 {
     settings_.precision = kDefaultPrecision;
     settings_.maxInfluences = kDefaultMaxInfluences;
@@ -51,6 +52,8 @@ void weightTableModel::clearWeightList()
     weights_ = weightList();
     weightsBeforeLoad_ = weightList();
     locks_.clear();
+    previousLocks_.clear();
+    forgetSnapshots();
     endResetModel();
     // The reset takes selection and current cell from the views; this tells who waits for the
     // table's layout.

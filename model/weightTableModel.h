@@ -14,13 +14,17 @@
 #include <QVariant>
 
 #include "model/cellAppearance.h"
+#include "model/editHandOver.h"
+#include "model/emptyColumns.h"
 #include "model/lockState.h"
 #include "model/weightList.h"
+#include "model/writtenVertices.h"
 
 #include <maya/MMessage.h>
 
 class QTableView;
 class wholeListRounding;
+struct typedValue;
 
 class weightTableModel : public QAbstractTableModel
 {
@@ -36,6 +40,8 @@ public:
 
     const weightList &weights() const { return weights_; }
     const lockState &locks() const { return locks_; }
+    // What the operation that runs korvexCmd has left for it.
+    const editHandOver &handOver() const { return handOver_; }
     // Decimal places shown.
     int displayPrecision() const { return settings_.precision; }
     int maxInfluences() const { return settings_.maxInfluences; }
@@ -44,6 +50,9 @@ public:
     bool isHighlighting() const { return isHighlighting_; }
     // Whether the skin paint tool is smoothing on the editor's behalf; it changes the selection.
     bool getSkinPaintSmoothMode() const { return skinPaintSmoothMode_; }
+
+    // Locks again what newUnlockAll() has unlocked.
+    Q_INVOKABLE void restoreLocks();
 
     // Empties the table, its locks and its snapshots: another scene has come.
     void clearWeightList();
@@ -56,12 +65,18 @@ public:
     // and edges, and vertices that are not loaded, select nothing.
     void mirrorMayaSelection();
 
-    // QAbstractTableModel. Cells give their text for the edit role too.
+    // Reads what a command has written, or written back, and rounds it by the pass over the whole
+    // list. The table ends as if all of it was read again.
+    void refreshWritten(const QVector<writtenVertices> &written);
+
+    // QAbstractTableModel. Typed text (typedValue.h) goes to each selected cell that shows a
+    // weight, through Maya's command engine. Cells give their text for the edit role too.
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation,
                         int role = Qt::DisplayRole) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
 public slots:
@@ -95,7 +110,49 @@ public slots:
     // store them to those that lack them.
     void checkLockAttr();
 
+    // Lock and unlock the whole columns, whole rows and other cells that are selected; unlocking a
+    // cell of a locked row or column leaves the rest of that locked cell by cell. At a selected
+    // shape row the operation ends. Stored with the scene at once, past Maya's undo queue, but for
+    // the joints' own locks.
+    void newLockSelected();
+    void newUnlockSelected();
+    // Unlocks everything and remembers it for restoreLocks().
+    void newUnlockAll();
+    // Each selected cell by itself, also those of selected rows and columns.
+    void lockCell();
+    void unlockCell();
+
+    // The same through attributes of Maya's alone; connected to nothing (legacyLocks.cpp).
+    void lockSelected();
+    void unlockSelected();
+    void unlockAll();
+
+    // Shows the weights, read by cacheUnroundedWeights(), at that many decimal places. Refused
+    // while anything is locked.
+    void setPrecision(int places);
+    // Writes the weights into the skin clusters as they are shown, by korvexCmd.
+    void applyPrecision();
+
+    // Snapshots (snapshots.cpp): copies of the table's rows that share memory with it.
+    void keepPreviousWeights();
+    void saveUndoCopy();
+    // Shows the undo copy, or what was kept as the previous weights. What was shown becomes the
+    // previous weights, so that the second one takes back the first, and itself.
+    void restoreUndoCopy();
+    void restorePreviousWeights();
+    // Reads the weights at full precision, for setPrecision().
+    void cacheUnroundedWeights();
+    // Changes places with the table before the last load; called again, back.
+    void undoLoad();
+    // Write the weights before applyPrecision(), and those that it wrote, past Maya's undo queue.
+    void undoApplyPrecision();
+    void redoApplyPrecision();
+    void undoPrecision();
+    void undoMaxInfluence();
+
 private:
+    friend class lockEdit;
+
     QVariant cellData(const weightRow &row, const cellIndex &cell, int role) const;
     QVariant rowHeaderData(int row, int role) const;
     QVariant columnHeaderData(int column, int role) const;
@@ -103,7 +160,26 @@ private:
     void appendShapeBlock(int shape, wholeListRounding &rounding);
     void roundLoadedRows(wholeListRounding &rounding);
 
+    void fillPending(const typedValue &typed, const QVector<cellIndex> &selected);
+    QVector<cellIndex> selectedCells(const cellIndex &edited) const;
+    // Reads the cells' rows again, each rounded as a row whose joint of that column was edited.
+    // Rows of shapes and rows that cannot be read stay as they are.
+    void refreshEditedRows(const QVector<cellIndex> &edited);
+    bool refreshListRows(const QVector<int> &rows);
+    void refreshAllRows();
+    void storeRow(int row, const weightRow &weights, double sum);
+    void announceRows(const QVector<int> &rows);
+
+    // Finds the empty columns anew, then shows and hides; the second alone where rows changed one
+    // by one.
     void applyColumnFilter();
+    void showFilteredColumns();
+    weightRows readUnroundedRows() const;
+    void restoreRows(weightRows rows, const char *failure);
+    void forgetSnapshots();
+    void announceAllRows();
+    void writeRows(const weightRows &rows);
+
     QItemSelection viewSelection() const;
     void selectVerticesInMaya(const QVector<int> &rows);
     void renewCurrentCellValue();
@@ -111,11 +187,19 @@ private:
     weightList weights_;
     weightList weightsBeforeLoad_;
     lockState locks_;
+    lockState previousLocks_; // what newUnlockAll() found
+    editHandOver handOver_;
     displaySettings settings_;
     int previousMaxInfluences_;
+    int previousPrecision_; // before the last setPrecision()
+
+    // Snapshots, of the table's shape or empty.
+    weightRows previousRows_;  // before the latest operation
+    weightRows undoRows_;      // before a change of the display alone
+    weightRows unroundedRows_; // as the skin clusters held them
 
     QTableView *view_ = nullptr;
-    QList<int> emptyColumns_; // known while the filter is on
+    emptyColumns emptyColumns_; // known while the filter is on
     bool isFiltering_ = false;
     bool isHighlighting_ = false;
     double currentCellValue_ = 0.0;

@@ -2,8 +2,11 @@
 #include "plugin/korvexCmd.h"
 
 #include <QApplication>
+#include <QScopedValueRollback>
 
+#include "commands/undoReplay.h"
 #include "model/messages.h"
+#include "model/weightTableModel.h"
 #include "plugin/hostWindow.h"
 #include "plugin/korvexFlags.h"
 #include "plugin/processState.h"
@@ -12,7 +15,6 @@
 #include <maya/MArgParser.h>
 #include <maya/MGlobal.h>
 #include <maya/MString.h>
-#include <maya/MStringArray.h>
 
 namespace
 {
@@ -35,15 +37,6 @@ MStatus openWindow()
     activeWindow->show();
     activeWindow->raise();
     return MStatus::kSuccess;
-}
-
-MStatus carryOut(const korvexFlag &flag)
-{
-    MStringArray arguments;
-    arguments.append(flag.longName);
-    MString message;
-    message.format(kFlagWithoutEdit, arguments);
-    return refuse(message);
 }
 
 } // namespace
@@ -69,18 +62,52 @@ MStatus korvexCmd::doIt(const MArgList &arguments)
     if (!activeModel)
         return refuse(kWindowNeverOpened);
     for (const korvexFlag &flag : kKorvexFlags) {
-        if (parser.isFlagSet(flag.longName))
-            return carryOut(flag);
+        if (!parser.isFlagSet(flag.longName))
+            continue;
+        const preparation prepared = prepare(flag);
+        if (prepared == preparation::ready)
+            return redoIt();
+        if (prepared == preparation::outdated) {
+            MGlobal::displayInfo(kDataNotSetUp);
+            return MStatus::kFailure;
+        }
     }
     return MStatus::kSuccess;
 }
 
+preparation korvexCmd::prepare(const korvexFlag &flag)
+{
+    const editSource source = {activeModel->weights(), activeModel->locks(),
+                               activeModel->handOver(), activeModel->maxInfluences()};
+    flag_ = &flag;
+    edit_ = preparedEdit();
+    return flag.prepare(source, edit_);
+}
+
 MStatus korvexCmd::redoIt()
 {
-    return MStatus::kSuccess;
+    if (!flag_)
+        return MStatus::kSuccess;
+    // Writing may change Maya's selection, and the table must not follow that.
+    const QScopedValueRollback<bool> restoreAutoUpdate(autoUpdate);
+    autoUpdate = false;
+    const MStatus status = flag_->write(edit_);
+    refreshTable();
+    return status;
 }
 
 MStatus korvexCmd::undoIt()
 {
-    return MStatus::kFailure;
+    const QScopedValueRollback<bool> restoreAutoUpdate(autoUpdate);
+    autoUpdate = false;
+    const MStatus status = replayDisplaced(edit_);
+    refreshTable();
+    return status;
+}
+
+// The window, and the table with it, may have gone while the command was on the undo queue.
+void korvexCmd::refreshTable()
+{
+    if (activeModel && !edit_.oldWeights.isEmpty())
+        activeModel->refreshWritten(verticesOf(edit_));
 }

@@ -3,10 +3,15 @@
 // of its flags it carries an edit of the table through Maya's undo queue.
 #pragma once
 
+#include "commands/preparedEdit.h"
+
 #include <maya/MArgList.h>
 #include <maya/MPxCommand.h>
 #include <maya/MStatus.h>
 #include <maya/MSyntax.h>
+
+enum class preparation;
+struct korvexFlag;
 
 class korvexCmd : public MPxCommand
 {
@@ -16,11 +21,20 @@ public:
     static void *creator() { return new korvexCmd; }
     static MSyntax newSyntax();
 
-    // Needs Maya's user interface to open the window, and an opened window to carry an edit.
+    // Needs Maya's user interface to open the window, and an opened window to carry an edit. An
+    // edit that cannot be prepared is no failure, but for one that the scene has no place for.
     MStatus doIt(const MArgList &arguments) override;
     MStatus redoIt() override;
     // Fails if there is no edit to take back.
     MStatus undoIt() override;
     // Also for an invocation that only opened the window.
     bool isUndoable() const override { return true; }
+
+private:
+    preparation prepare(const korvexFlag &flag);
+    void refreshTable();
+
+    // What this invocation carries; null if it opened the window.
+    const korvexFlag *flag_ = nullptr;
+    preparedEdit edit_;
 };

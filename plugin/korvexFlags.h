@@ -1,22 +1,37 @@
 // SPDX-License-Identifier: Apache-2.0
-// The flags of korvexCmd, each the carrier of one kind of edit. None takes an argument.
+// The flags of korvexCmd, each the carrier of one kind of edit. None takes an argument. A further
+// kind of edit is a further row: the syntax, the command and its undo follow the table.
 #pragma once
+
+#include "commands/preparers.h"
+#include "commands/writers.h"
 
 struct korvexFlag {
     const char *shortName;
     const char *longName;
+    editPreparer prepare;
+    editWriter write;
 };
 
-// In the order in which the command looks for them: the first that is set is carried out.
+// In the order in which the command looks for them: the first that is set and can be prepared is
+// carried out.
 const korvexFlag kKorvexFlags[] = {
-    {"-nm", "-numMax"},            // limit the influences per vertex
-    {"-r", "-round"},              // round all weights
-    {"-re", "-replace"},           // flood one joint column with a value
-    {"-sd", "-setData"},           // typed values
-    {"-ds", "-dragSlider"},        // the slider, over cells
-    {"-dsc", "-dragSliderColumn"}, // the slider, over a joint column
-    {"-sm", "-skinPaintSmooth"},   // smooth with the paint tool
+    // limit the influences per vertex
+    {"-nm", "-numMax", prepareMaxInfluences, writeMaxInfluences},
+    // round all weights
+    {"-r", "-round", prepareRounding, writeRounding},
+    // flood one joint column with a value
+    {"-re", "-replace", prepareFlood, writeFlood},
+    // typed values
+    {"-sd", "-setData", prepareCells, writeCells},
+    // the slider, over cells
+    {"-ds", "-dragSlider", prepareCells, writeCells},
+    // the slider, over a joint column
+    {"-dsc", "-dragSliderColumn", prepareColumn, writeColumn},
+    // FIXME: smooth with the paint tool; nothing is prepared for it yet, which its writer reports.
+    {"-sm", "-skinPaintSmooth", prepareNothing, writeColumn},
+    // FIXME: smooth with the skin cluster's own edit; likewise.
     // Deliberate: shares its short name with the flag above. Scripts use the long names; Maya
     // keeps those whatever it makes of the short one.
-    {"-sm", "-smoothSkinWeights"}, // smooth with the skin cluster's own edit
+    {"-sm", "-smoothSkinWeights", prepareNothing, writeColumn},
 };

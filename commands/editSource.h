@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: Apache-2.0
+// What the preparers read: the table as it is, and what its operation has left.
+#pragma once
+
+#include "model/editHandOver.h"
+#include "model/lockState.h"
+#include "model/weightList.h"
+
+struct editSource {
+    const weightList &weights;
+    const lockState &locks;
+    const editHandOver &handOver;
+    int maxInfluences;
+};

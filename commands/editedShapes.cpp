@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "commands/editedShapes.h"
+
+#include "commands/vertexComponents.h"
+
+editedShapes::editedShapes(const editSource &source, preparedEdit &edit)
+    : source_(source), edit_(edit), places_(source.weights.shapeCount(), -1)
+{
+}
+
+int editedShapes::enter(int shape)
+{
+    const weightList &weights = source_.weights;
+    if (shape < 0 || shape >= places_.size())
+        return -1;
+    if (places_.at(shape) >= 0)
+        return places_.at(shape);
+    if (!weights.isInScene(shape))
+        return -1;
+    const unsigned int s = static_cast<unsigned int>(shape);
+    lookups_.push_back(influenceLookup(weights.skinClusters[s]));
+    editedShape entered;
+    entered.skinCluster = weights.skinClusterHandles.at(shape);
+    entered.path = weights.shapePaths[s];
+    entered.influenceCount = lookups_.back().count();
+    places_[shape] = static_cast<int>(edit_.shapes.size());
+    edit_.shapes.append(entered);
+    return places_.at(shape);
+}
+
+int editedShapes::influenceOf(int place, int column) const
+{
+    const weightList &weights = source_.weights;
+    if (column < 0 || column >= weights.jointCount())
+        return -1;
+    return lookups_[static_cast<size_t>(place)].influenceOf(
+        weights.jointPaths[static_cast<unsigned int>(column)], weights.jointNames.value(column));
+}
+
+weightWrite &editedShapes::appendWrite(int place, int vertex)
+{
+    weightWrite &write = append(place, oneVertex(vertex), vertex);
+    write.vertex = vertex;
+    return write;
+}
+
+weightWrite &editedShapes::appendWriteToAll(int place, int shape)
+{
+    const int lastRow = source_.weights.endOfVertexRows(shape) - 1;
+    return append(place, loadedVerticesOf(source_.weights, shape),
+                  source_.weights.rowNames.vertex(lastRow));
+}
+
+weightWrite &editedShapes::append(int place, const MObject &component, int highestVertex)
+{
+    editedShape &shape = edit_.shapes[place];
+    shape.highestVertex = qMax(shape.highestVertex, highestVertex);
+    edit_.writes.append(weightWrite());
+    edit_.writes.last().shape = place;
+    edit_.writes.last().component = component;
+    return edit_.writes.last();
+}

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: Apache-2.0
+// The shapes of an edit while it is prepared: each is entered at its first write, with what all its
+// writes ask of the skin cluster.
+#pragma once
+
+#include "commands/editSource.h"
+#include "commands/influenceLookup.h"
+#include "commands/preparedEdit.h"
+
+#include <vector>
+
+class editedShapes
+{
+public:
+    // Both must outlive it.
+    editedShapes(const editSource &source, preparedEdit &edit);
+
+    // The place in the edit of a loaded shape; -1 if the scene has lost it.
+    int enter(int shape);
+
+    // Where `place` is what enter() gave.
+    // The influence that a joint column is there; -1 for none.
+    int influenceOf(int place, int column) const;
+    // An empty write to one vertex, or to all that are loaded. Valid until the next one.
+    weightWrite &appendWrite(int place, int vertex);
+    weightWrite &appendWriteToAll(int place, int shape);
+
+private:
+    weightWrite &append(int place, const MObject &component, int highestVertex);
+
+    const editSource &source_;
+    preparedEdit &edit_;
+    QVector<int> places_; // by loaded shape; -1: not entered yet
+    std::vector<influenceLookup> lookups_;
+};

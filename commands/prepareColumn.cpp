@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "commands/editedShapes.h"
+#include "commands/preparers.h"
+
+#include "model/messages.h"
+#include "model/typedValue.h"
+
+#include <maya/MGlobal.h>
+
+namespace
+{
+
+// Whether the column's joint has cells in the shape's rows.
+bool hasColumn(const weightList &weights, int shape, int column)
+{
+    const int first = weights.firstVertexRow(shape);
+    return first < weights.endOfVertexRows(shape) && hasCell(weights.rows.at(first), column) &&
+           !isInert(cellOf(weights.rows.at(first), column));
+}
+
+MDoubleArray draggedWeights(const editSource &source, int shape)
+{
+    const editHandOver &drag = source.handOver;
+    MDoubleArray values;
+    const int end = source.weights.endOfVertexRows(shape);
+    for (int r = source.weights.firstVertexRow(shape); r < end; ++r) {
+        const double weight = cellOf(source.weights.rows.at(r), drag.operationColumn);
+        values.append(boundedWeight(drag.columnDragIsAbsolute ? drag.columnDragValue
+                                                              : weight + drag.columnDragDelta));
+    }
+    return values;
+}
+
+MDagPathArray lockedJoints(const editSource &source)
+{
+    MDagPathArray joints;
+    const QList<int> columns = source.locks.joints();
+    for (int i = 0; i < columns.size(); ++i) {
+        if (columns.at(i) >= 0 && columns.at(i) < source.weights.jointCount())
+            joints.append(source.weights.jointPaths[static_cast<unsigned int>(columns.at(i))]);
+    }
+    return joints;
+}
+
+} // namespace
+
+preparation prepareColumn(const editSource &source, preparedEdit &edit)
+{
+    const MDagPathArray held = lockedJoints(source);
+    editedShapes shapes(source, edit);
+    for (int shape = 0; shape < source.weights.shapeCount(); ++shape) {
+        if (!hasColumn(source.weights, shape, source.handOver.operationColumn))
+            continue;
+        const int place = shapes.enter(shape);
+        if (place < 0)
+            return preparation::outdated;
+        const int influence = shapes.influenceOf(place, source.handOver.operationColumn);
+        if (influence < 0) {
+            MGlobal::displayInfo(kNoJointIndex);
+            return preparation::failed;
+        }
+        weightWrite &write = shapes.appendWriteToAll(place, shape);
+        write.influence = influence;
+        write.values = draggedWeights(source, shape);
+        write.heldJoints = held;
+    }
+    return preparation::ready;
+}

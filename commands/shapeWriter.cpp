@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "commands/shapeWriter.h"
+
+#include "commands/vertexComponents.h"
+#include "model/messages.h"
+
+#include <maya/MGlobal.h>
+#include <maya/MString.h>
+#include <maya/MStringArray.h>
+
+namespace
+{
+
+// Whether the scene still has all that the edit was prepared for.
+bool canTake(const editedShape &shape)
+{
+    if (!shape.skinCluster.isValid() || !shape.path.isValid())
+        return false;
+    MDoubleArray weights;
+    unsigned int influenceCount = 0;
+    const MStatus status =
+        MFnSkinCluster(shape.skinCluster.object())
+            .getWeights(shape.path, oneVertex(shape.highestVertex), weights, influenceCount);
+    return status && influenceCount == shape.influenceCount;
+}
+
+MString normalizationMessage(const MObject &skinCluster)
+{
+    MStringArray arguments;
+    arguments.append(MFnDependencyNode(skinCluster).name());
+    MString message;
+    message.format(kNormalizationFixed, arguments);
+    return message;
+}
+
+} // namespace
+
+shapeWriter::shapeWriter(const editedShape &shape, bool leavesNormalizationAlone)
+    : skinCluster_(shape.skinCluster.object()), path_(shape.path)
+{
+    for (unsigned int i = 0; i < shape.influenceCount; ++i)
+        allInfluences_.append(static_cast<int>(i));
+    if (!leavesNormalizationAlone)
+        guard_.reset(new normalizationGuard(skinCluster_));
+}
+
+MStatus shapeWriter::setInfluence(const MObject &component, int influence, double value,
+                                  MDoubleArray &old)
+{
+    return skinCluster_.setWeights(path_, component, static_cast<unsigned int>(influence), value,
+                                   true, &old);
+}
+
+MStatus shapeWriter::setInfluence(const MObject &component, int influence, MDoubleArray values,
+                                  MDoubleArray &old)
+{
+    MIntArray influences(1, influence);
+    return skinCluster_.setWeights(path_, component, influences, values, true, &old);
+}
+
+MStatus shapeWriter::setAll(const MObject &component, MDoubleArray values, MDoubleArray &old)
+{
+    return skinCluster_.setWeights(path_, component, allInfluences_, values, true, &old);
+}
+
+MDoubleArray shapeWriter::weightsOf(const MObject &component) const
+{
+    MDoubleArray weights;
+    unsigned int influenceCount = 0;
+    if (!skinCluster_.getWeights(path_, component, weights, influenceCount))
+        weights.clear();
+    return weights;
+}
+
+shapeWriters::shapeWriters(const preparedEdit &edit)
+{
+    for (int i = 0; areReady_ && i < edit.shapes.size(); ++i)
+        add(edit.shapes.at(i), edit.leavesNormalizationAlone);
+}
+
+void shapeWriters::add(const editedShape &shape, bool leavesNormalizationAlone)
+{
+    if (!canTake(shape)) {
+        areReady_ = false;
+        MGlobal::displayInfo(kDataNotSetUp);
+        return;
+    }
+    writers_.push_back(
+        std::unique_ptr<shapeWriter>(new shapeWriter(shape, leavesNormalizationAlone)));
+    if (!writers_.back()->isNormalizing()) {
+        areReady_ = false;
+        MGlobal::displayError(normalizationMessage(shape.skinCluster.object()));
+    }
+}
+
+MStatus writeEach(preparedEdit &edit, writeStep step)
+{
+    edit.oldWeights.clear();
+    if (edit.writes.isEmpty()) {
+        MGlobal::displayInfo(kDataNotSetUp);
+        return MStatus::kFailure;
+    }
+    shapeWriters writers(edit);
+    if (!writers.areReady())
+        return MStatus::kFailure;
+    MStatus status;
+    edit.oldWeights.reserve(edit.writes.size());
+    for (int i = 0; i < edit.writes.size(); ++i) {
+        MDoubleArray old;
+        status = step(writers.of(edit.writes.at(i)), edit.writes.at(i), old);
+        edit.oldWeights.append(old);
+    }
+    return status;
+}

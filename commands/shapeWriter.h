@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: Apache-2.0
+// Writing to the skin clusters of an edit: what an edit's thousand writes to one shape share is set
+// up once.
+#pragma once
+
+#include "commands/normalizationGuard.h"
+#include "commands/preparedEdit.h"
+
+#include <maya/MFnSkinCluster.h>
+#include <maya/MIntArray.h>
+#include <maya/MStatus.h>
+
+#include <memory>
+#include <vector>
+
+// Writes to one shape, normalized as long as it lives unless the edit leaves that alone.
+class shapeWriter
+{
+public:
+    // REQUIRES: the skin cluster exists; so for all calls.
+    shapeWriter(const editedShape &shape, bool leavesNormalizationAlone);
+
+    // False where the skin cluster cannot be made to normalize.
+    bool isNormalizing() const { return !guard_ || guard_->isNormalizing(); }
+
+    // Each call replaces `old` by the weights of all influences before it.
+    MStatus setInfluence(const MObject &component, int influence, double value, MDoubleArray &old);
+    MStatus setInfluence(const MObject &component, int influence, MDoubleArray values,
+                         MDoubleArray &old);
+    MStatus setAll(const MObject &component, MDoubleArray values, MDoubleArray &old);
+
+    // The weights of all influences; empty if they cannot be read.
+    MDoubleArray weightsOf(const MObject &component) const;
+
+private:
+    MFnSkinCluster skinCluster_;
+    MDagPath path_;
+    MIntArray allInfluences_;
+    std::unique_ptr<normalizationGuard> guard_;
+};
+
+// The writers of all shapes of an edit.
+class shapeWriters
+{
+public:
+    // Shows a message if not all of it can be written: a shape or its skin cluster is gone, has
+    // other influences or fewer vertices, or cannot be made to normalize.
+    explicit shapeWriters(const preparedEdit &edit);
+
+    bool areReady() const { return areReady_; }
+    // REQUIRES: areReady().
+    shapeWriter &of(const weightWrite &write) { return *writers_[size_t(write.shape)]; }
+
+private:
+    void add(const editedShape &shape, bool leavesNormalizationAlone);
+
+    std::vector<std::unique_ptr<shapeWriter>> writers_;
+    bool areReady_ = true;
+};
+
+// The loop of most writers: `step` writes once, into `old` what that displaced.
+typedef MStatus (*writeStep)(shapeWriter &writer, const weightWrite &write, MDoubleArray &old);
+MStatus writeEach(preparedEdit &edit, writeStep step);

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: Apache-2.0
+// From the data of an edit to the skin cluster, one writer per kind of edit, each in a source of
+// its own.
+//
+// A writer empties the edit's oldWeights and fills them with what its writes displace. An edit
+// without writes, or for a scene that has lost what it was prepared for, gets a message and
+// kFailure, and nothing is written. A write that fails does not stop the others; the status is that
+// of the last.
+#pragma once
+
+#include "commands/preparedEdit.h"
+
+#include <maya/MStatus.h>
+
+typedef MStatus (*editWriter)(preparedEdit &edit);
+
+// An edit without writes is no failure here: no vertex has too many influences.
+//
+// Takes a vertex's smallest weights out one by one, each time letting the skin cluster normalize
+// the others; among equal ones the leftmost goes. A weight of a joint that is no influence stops
+// everything that is left, with a message and kFailure; what was written stays, and stays in
+// oldWeights.
+MStatus writeMaxInfluences(preparedEdit &edit);
+// Of all influences, with normalizeWeights as it is.
+MStatus writeRounding(preparedEdit &edit);
+MStatus writeFlood(preparedEdit &edit);
+MStatus writeCells(preparedEdit &edit);
+MStatus writeColumn(preparedEdit &edit);
