@@ -13,6 +13,7 @@ void addAddAttrCommand(CommandTable &table);
 void addAttributeQueryCommand(CommandTable &table);
 void addListAttrCommand(CommandTable &table);
 void addAliasAttrCommand(CommandTable &table);
+void addDeleteAttrCommands(CommandTable &table);
 
 // One fact about an attribute, by the long name of attributeQuery's flag ("minimum", "longName").
 // REQUIRES: there is such a flag.

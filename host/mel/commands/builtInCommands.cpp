@@ -21,6 +21,8 @@ void addBuiltInCommands(CommandTable &table)
     addJointCommands(table);
     addSkinClusterCommands(table);
     addSkinPercentCommands(table);
+    addToolCommands(table);
+    addPaintToolCommands(table);
     addFileCommand(table);
     addFileStatementCommands(table);
     addUndoCommands(table);

@@ -26,6 +26,8 @@ void addPrimitiveCommands(CommandTable &table);
 void addJointCommands(CommandTable &table);
 void addSkinClusterCommands(CommandTable &table);
 void addSkinPercentCommands(CommandTable &table);
+void addToolCommands(CommandTable &table);      // currentCtx, setToolTo, contextInfo
+void addPaintToolCommands(CommandTable &table); // artAttrSkinPaintCtx and its procedures
 
 // Files, undo and the program.
 void addFileCommand(CommandTable &table);

@@ -4,7 +4,9 @@
 
 #include "mel/commands/builtInCommands.h"
 #include "mel/commands/commandSupport.h"
+#include "mel/commands/deformerNetwork.h"
 #include "mel/commands/deleteHistory.h"
+#include "scene/meshGeometry.h"
 
 namespace host::mel
 {
@@ -58,6 +60,10 @@ void deletePath(Scene &scene, const SelectionItem &item)
 {
     if (!item.node->isInScene())
         return; // gone with its parent
+    if (item.node->isA("skinCluster") && deformedShape(*item.node)) {
+        detachDeformer(scene, item.node); // the shape is fed by what came before
+        return;
+    }
     const bool isInstance = !item.path.isNull() && item.node->parents().size() > 1;
     if (!isInstance) {
         scene.deleteNode(item.node);
