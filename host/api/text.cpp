@@ -71,7 +71,7 @@ void appendUtf8(std::string &text, char32_t character)
         return;
     }
     const int count = character < 0x800 ? 1 : character < 0x10000 ? 2 : 3;
-    const unsigned lead = 0xF00u >> count; // 0xC0, 0xE0, 0xF0 in the low byte
+    const unsigned lead = 0xFF00u >> (count + 1); // 0xC0, 0xE0, 0xF0 in the low byte
     text += static_cast<char>((lead & 0xFFu) | (character >> (6 * count)));
     for (int i = count - 1; i >= 0; --i)
         text += static_cast<char>(0x80u | ((character >> (6 * i)) & 0x3Fu));

@@ -1,0 +1,63 @@
+# SPDX-License-Identifier: Apache-2.0
+#
+# Every header of the API compiles alone and together with all others, and code that one of Maya's releases
+# refuses, or misunderstands in silence, is refused here too.
+
+function(compile name text result)
+  set(file ${WORK}/${name}.cpp)
+  file(WRITE ${file} "${text}\n")
+  execute_process(COMMAND ${COMPILER} -std=c++14 -Wall -Wextra -Wpedantic -Werror -fsyntax-only -I${INCLUDES} ${file}
+    RESULT_VARIABLE code ERROR_VARIABLE messages)
+  set(${result} ${code} PARENT_SCOPE)
+  set(messages "${messages}" PARENT_SCOPE)
+endfunction()
+
+file(GLOB headers RELATIVE ${INCLUDES} ${INCLUDES}/maya/*.h)
+list(REMOVE_ITEM headers maya/MQtUtil.h) # needs Qt
+set(all "")
+set(reversed "")
+foreach(header ${headers})
+  compile(alone "#include <${header}>" code)
+  if(NOT code EQUAL 0)
+    message(SEND_ERROR "${header} does not compile alone:\n${messages}")
+  endif()
+  string(APPEND all "#include <${header}>\n")
+  string(PREPEND reversed "#include <${header}>\n")
+endforeach()
+foreach(order all reversed)
+  compile(${order} "${${order}}" code)
+  if(NOT code EQUAL 0)
+    message(SEND_ERROR "the headers do not go together (${order}):\n${messages}")
+  endif()
+endforeach()
+
+# `body` stands in a function that has a node, a plug, a string and a status.
+set(frame "void f(MFnDependencyNode &node, MPlug &plug, MString &text, MStatus &status)\n{")
+function(expect verdict body)
+  compile(${verdict} "${all}${frame}(void)node; (void)plug; (void)text; (void)status; ${body}}" code)
+  if(verdict STREQUAL accepted AND NOT code EQUAL 0)
+    message(SEND_ERROR "refused: ${body}\n${messages}")
+  elseif(verdict STREQUAL refused AND code EQUAL 0)
+    message(SEND_ERROR "accepted: ${body}")
+  endif()
+endfunction()
+
+expect(accepted "plug = node.findPlug(\"x\", true, &status);")
+expect(refused "plug = node.findPlug(\"x\", &status);")
+expect(refused "plug = node.findPlug(\"x\");")
+expect(refused "MFnDependencyNode copy(node);")
+expect(refused "auto pointer = &node; (void)pointer;")
+expect(accepted "int r; MGlobal::executeCommand(text, r, true); MGlobal::executeCommand(text, true);")
+expect(refused "unsigned r; MGlobal::executeCommand(text, r);")
+expect(refused "float r; MGlobal::executeCommand(text, r);")
+expect(accepted "plug.setMObject(MObject::kNullObj); plug = plug[0]; plug.setValue(\"x\");")
+expect(refused "plug.setMObject(MObject());")
+expect(refused "plug.asInt(&status);")
+expect(refused "if (plug) return;")
+expect(accepted "text += 3; text = text + 0.5; text = \"a\" + text;")
+expect(refused "text += sizeof(int);")
+expect(refused "MGlobal::setHiliteList(MSelectionList());")
+compile(stray "class MObject;\n#include <maya/MObject.h>" code)
+if(code EQUAL 0)
+  message(SEND_ERROR "a forward declaration of one's own is accepted")
+endif()
