@@ -151,11 +151,13 @@ std::vector<int> elementIndices(const Plug &wholeArray)
 
 int PlugBody::logicalIndex(unsigned physical) const
 {
-    const Node &node = *plug.node;
-    const bool isFresh = physical < order_.size() && order_.size() == node.elementCount(plug) &&
-                         node.hasElement(plug.element(order_[physical]));
-    if (!isFresh)
+    const bool isFresh =
+        isOrderKnown_ && orderRevision_ == plug.node->dataRevision() && !plug.attribute->isComputed;
+    if (!isFresh) {
         order_ = elementIndices(plug);
+        orderRevision_ = plug.node->dataRevision();
+        isOrderKnown_ = true;
+    }
     return physical < order_.size() ? order_[physical] : kNoIndex;
 }
 

@@ -60,6 +60,8 @@ public:
 
 private:
     mutable std::vector<int> order_;
+    mutable unsigned long orderRevision_ = 0; // of the node's data, when `order_` was read
+    mutable bool isOrderKnown_ = false;
 };
 
 MObject toObject(const NodePtr &node); // the null object for none
