@@ -125,7 +125,10 @@ void Reader::callCommand(const mel::Statement &statement)
 {
     const std::string name(statement.command);
     const mel::Command *command = interpreter_.commands().find(name);
-    if (!command || !command->isFileStatement) {
+    // The file command does more than name references.
+    const bool isForbidden = name == "file" && !hasFlag(statement, "-r", "-reference") &&
+                             !hasFlag(statement, "-rdi", "-referenceDepthInfo");
+    if (!command || !command->isFileStatement || isForbidden) {
         warnings_.add("commands that a file may not hold", statement.line,
                       "\"" + name + "\" is no command of a scene file; it was skipped");
         return;

@@ -208,7 +208,9 @@ void ValueWriter::writeElements(const Plug &array, const Datum &datum)
         }
     }
     // The size shares the first statement only where elements lie in ranges, as faces do.
-    if (pendingSize_ > 0 && pendingCapacity_ == 0)
+    const auto first = datum.elements.begin();
+    const bool isRange = first != datum.elements.end() && first->second.rangeLast > first->first;
+    if (pendingSize_ > 0 && !isRange)
         writeSize(array, std::exchange(pendingSize_, 0));
     for (const auto &[index, element] : datum.elements)
         writeItem(array.element(index), element);

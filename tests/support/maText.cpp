@@ -282,10 +282,10 @@ void reader::read(const std::string &text)
 // Attributes of single precision: Maya writes more digits of some than a float has.
 bool isSingle(const std::string &fact)
 {
-    static const char *const kSingles[] = {".vt[",   ".vrts[", ".uvsp[", ".uvSetPoints[", ".pt[",
-                                           ".pnts[", ".n[",    ".ifcl[", ".obcc"};
-    return std::any_of(std::begin(kSingles), std::end(kSingles),
-                       [&](const char *name) { return fact.find(name) != std::string::npos; });
+    static const char *const kSingles[] = {"vt", "vrts", "uvsp", "uvSetPoints", "pt",  "pnts",
+                                           "n",  "c",    "ifcl", "obcc",        "wfcc"};
+    const std::string last = fact.substr(fact.rfind('.') + 1);
+    return std::count(std::begin(kSingles), std::end(kSingles), last.substr(0, last.find('['))) > 0;
 }
 
 bool isSameWord(const std::string &first, const std::string &second, bool single)

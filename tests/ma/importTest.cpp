@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: Apache-2.0
+// Importing: new names where the old ones are taken, with everything that refers to them; undone as
+// one.
+#include "ma/sceneFile.h"
+
+namespace
+{
+
+class Import : public SceneFileTest
+{
+protected:
+    Import()
+    {
+        mel("createNode transform -n \"rig\"; createNode joint -n \"hip\" -p rig;"
+            "createNode joint -n \"knee\" -p hip; setAttr \"knee.tx\" 2;"
+            "createNode skinCluster -n \"skin\"; connectAttr \"knee.wm\" \"skin.ma[3]\";"
+            "setAttr \"skin.wl[2].w[3]\" 0.5; lockNode -l 1 skin");
+        file_ = path("rig.ma");
+        EXPECT_TRUE(MFileIO::exportAll(file_.c_str()));
+    }
+    std::string file_;
+};
+
+TEST_F(Import, numbersNamesThatAreTaken)
+{
+    const std::string before = savedText();
+    mel("file -import \"" + file_ + "\"");
+    EXPECT_EQ(melStrings("listRelatives -ad rig1"), "knee1 hip1");
+    EXPECT_EQ(melNumbers("getAttr \"knee1.tx\""), std::vector<double>{2});
+    EXPECT_EQ(melStrings("listConnections -s true -d false \"skin1.ma\""), "knee1");
+    EXPECT_EQ(melNumbers("getAttr \"skin1.wl[2].w[3]\""), std::vector<double>{0.5});
+    EXPECT_EQ(melStrings("ls -type camera"), "perspShape topShape frontShape sideShape");
+    const std::string after = savedText();
+    mel("undo");
+    EXPECT_EQ(savedText(), before);
+    mel("redo");
+    EXPECT_EQ(savedText(), after);
+}
+
+TEST_F(Import, putsNamesIntoANamespace)
+{
+    ASSERT_TRUE(MFileIO::importFile(file_.c_str(), nullptr, false, "left")) << takeErrors();
+    EXPECT_EQ(melStrings("ls -long -type joint \"left:*\""),
+              "|left:rig|left:hip |left:rig|left:hip|left:knee");
+    EXPECT_EQ(melStrings("listConnections -s true -d false \"left:skin.ma\""), "left:knee");
+}
+
+TEST_F(Import, ofABrokenFileChangesNothing)
+{
+    const std::string broken = write("broken.ma", "createNode joint -n \"toe\";\ncreateNode");
+    const std::string before = savedText();
+    EXPECT_FALSE(MFileIO::importFile(broken.c_str()));
+    EXPECT_NE(takeErrors().find("broken.ma line 5: The file is cut off"), std::string::npos);
+    EXPECT_EQ(savedText(), before);
+}
+
+} // namespace
