@@ -51,7 +51,8 @@ TEST_F(skinCluster, refusesAndChangesNothing)
         {"skinCluster -mi 0 joint1 body",
          "The value 0 of flag 'mi' is out of range or not supported."},
         {"skinCluster -dr 0 joint1 body", "The dropoff rate must be from 0.1 to 10."},
-        {"skinCluster -e -sw 0.5 body", "Invalid flag '-sw'"},
+        {"skinCluster -e -sw 0.5 body",
+         "No skinCluster was given, and none belongs to what is selected."},
         {"skinCluster -q -inf body",
          "No skinCluster was given, and none belongs to what is selected."},
     };

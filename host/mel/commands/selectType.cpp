@@ -40,10 +40,13 @@ void change(Context &context, const PickableState &state, const Pickable &after,
     const Pickable before = *state;
     *state = after;
     if (context.session.undo().isRecording()) {
-        UndoStep step;
-        step.undo = [state, before] { return *state = before, true; };
-        step.redo = [state, after] { return *state = after, true; };
-        context.session.undo().record(std::move(step));
+        const auto put = [state, event, &events = context.session.events()](const Pickable &value) {
+            *state = value;
+            events.raise(event);
+            return true;
+        };
+        context.session.undo().record(
+            {[put, before] { return put(before); }, [put, after] { return put(after); }});
     }
     context.session.events().raise(event);
 }

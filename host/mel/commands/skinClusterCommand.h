@@ -36,6 +36,20 @@ SkinCluster requireSkinCluster(Context &context, const Arguments &arguments);
 // Physical index of the influence of that name; throws Error if it is none of the cluster's.
 std::size_t requireInfluence(Context &context, const SkinCluster &cluster, std::string_view name);
 
+// The vertices of a shape that are selected, ascending; empty if there are none, whatever else of
+// it is selected.
+std::vector<int> selectedVertices(const Session &session, const Node &shape);
+
+// What joins the vertices of the shape that a cluster deforms. Refuses shapes without known faces.
+// Valid until the next call.
+const skin::Adjacency &requireAdjacency(Session &session, const SkinCluster &cluster);
+
+// What a write could not do, a warning of each kind.
+void showWarnings(Session &session, const SkinWriteResult &result);
+
+// -smoothWeights: the selected vertices of the cluster's shape, or all of them.
+void smoothSkinCluster(Context &context, const Arguments &arguments, const SkinCluster &cluster);
+
 MelValue createSkinCluster(Context &context, const Arguments &arguments);
 MelValue querySkinCluster(Context &context, const Arguments &arguments);
 MelValue editSkinCluster(Context &context, const Arguments &arguments);

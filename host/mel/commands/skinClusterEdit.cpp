@@ -27,6 +27,11 @@ void setInfluenceLock(Scene &scene, const Node &influence, bool isLocked)
     scene.setValue(influence.plug("lockInfluenceWeights"), isLocked ? 1.0 : 0.0);
 }
 
+void smooth(const Edit &edit)
+{
+    smoothSkinCluster(edit.context, edit.arguments, edit.cluster);
+}
+
 // -influence with -lockWeights or -dropoffRate.
 void editInfluence(const Edit &edit)
 {
@@ -180,6 +185,7 @@ struct Step {
 };
 
 const Step kSteps[] = {{"influence", editInfluence},
+                       {"smoothWeights", smooth},
                        {"selectInfluenceVerts", selectVertices},
                        {"addInfluence", addInfluences},
                        {"removeInfluence", removeInfluences},

@@ -172,10 +172,7 @@ MelValue write(const Call &call)
         prune(call, normalize);
     else if (!hasValues && call.arguments.has("normalize") && normalize)
         normalizeWeights(call);
-    if (result.couldNotSet)
-        call.context.session.output().warning(skin::kWeightTotalWarning);
-    if (result.locksPreventedMax)
-        call.context.session.output().warning(skin::kMaxInfluencesWarning);
+    showWarnings(call.context.session, result);
     return {};
 }
 

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: Apache-2.0
+// currentCtx, setToolTo, contextInfo: the tool that the user holds.
+#include "mel/commands/builtInCommands.h"
+#include "mel/commands/commandSupport.h"
+#include "scene/toolState.h"
+
+namespace host::mel
+{
+
+namespace
+{
+
+MelValue currentContext(Context &context, const Arguments &arguments)
+{
+    requireObjectCount(arguments, "currentCtx", 0, 0);
+    return context.session.tools().current();
+}
+
+MelValue setTool(Context &context, const Arguments &arguments)
+{
+    requireObjectCount(arguments, "setToolTo", 1, 1);
+    ToolState &tools = context.session.tools();
+    const std::string name = arguments.objects[0].string();
+    const std::string known = tools.contextNamed(name);
+    if (known.empty())
+        throw Error("Tool context '" + name + "' not found.");
+    tools.enter(known);
+    return {};
+}
+
+MelValue contextInfo(Context &context, const Arguments &arguments)
+{
+    requireObjectCount(arguments, "contextInfo", 1, 1);
+    if (!arguments.has("exists"))
+        throw Error("No flag to query was given.");
+    const std::string known = context.session.tools().contextNamed(arguments.objects[0].text);
+    return static_cast<long long>(!known.empty());
+}
+
+} // namespace
+
+void addToolCommands(CommandTable &table)
+{
+    const Command commands[] = {{"currentCtx", {}, currentContext, false},
+                                {"setToolTo", {}, setTool},
+                                {"contextInfo", {{"ex", "exists"}}, contextInfo, false}};
+    for (const Command &command : commands)
+        table.add(command);
+}
+
+} // namespace host::mel
