@@ -53,8 +53,11 @@ public:
         if (row.empty() && !weights.hasRow(vertex))
             return;
         ++rowCount_;
+        const Entry *rest = addKnown(row);
+        if (rest == row.end())
+            return;
         next_.clear();
-        forEachInfluence(view(sum_), row, [this](const Entry &a, const Entry &b) {
+        forEachInfluence(view(sum_), {rest, row.end()}, [this](const Entry &a, const Entry &b) {
             next_.push_back({a.influence, a.weight + b.weight});
         });
         std::swap(sum_, next_);
@@ -72,6 +75,21 @@ public:
     }
 
 private:
+    // Neighbours mostly have the same influences: adds in place up to the first one that the sum
+    // does not hold yet, and returns where that stands.
+    const Entry *addKnown(const RowView &row)
+    {
+        auto sum = sum_.begin();
+        for (const Entry &entry : row) {
+            while (sum != sum_.end() && sum->influence < entry.influence)
+                ++sum;
+            if (sum == sum_.end() || sum->influence != entry.influence)
+                return &entry;
+            sum->weight += entry.weight;
+        }
+        return row.end();
+    }
+
     static RowView view(const std::vector<Entry> &row)
     {
         return {row.data(), row.data() + row.size()};
