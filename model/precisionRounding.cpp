@@ -10,6 +10,9 @@ namespace
 
 const double kCut = 0.49;
 
+// From here on a double has no digits beyond the last place: there is nothing to cut.
+const double kMostUnits = 9007199254740992.0; // 2 to the power of 53
+
 // A residual between this and zero is what adding a row of doubles leaves, not a weight.
 const double kSumNoise = -1e-12;
 
@@ -29,6 +32,8 @@ double weightRounder::rounded(double weight) const
     if (!(weight > 0.0))
         return weight;
     const double units = std::ceil(weight * unitsPerWeight_ - kCut);
+    if (units > kMostUnits)
+        return weight;
     return units > 0.0 ? units / unitsPerWeight_ : 0.0;
 }
 
