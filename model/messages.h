@@ -56,9 +56,8 @@ const char kInvalidPrecision[] = "The precision value is not set up correctly.";
 const char kNoWeightList[] = "There is no weight list data.";
 const char kPrecisionWhileLocked[] =
     "There is locked joint or vertex, please unlock all and then set precision.";
-const char kWeightsOutOfRange[] = // ^1s: a number of rows
-    "Rounding leaves ^1s vertices with a weight outside 0 to 1. Maya may write other weights "
-    "there.";
+const char kWeightsOutOfRange[] = // ^1s: how many
+    "Vertices with a rounded weight outside 0 to 1: ^1s. Maya may write other weights there.";
 const char kNothingToCache[] = "There is no weight to be cached.";
 const char kCannotRestoreWeights[] = "There is a problem with restoring weight data.";
 const char kArraysDiffer[] =
