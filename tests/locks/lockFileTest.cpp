@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// Locks outlive the scene's being saved and opened again, by themselves or with changes between.
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include "locks/lockScene.h"
+#include "model/messages.h"
+
+class lockFiles : public LockScene
+{
+protected:
+    void saveAndOpen()
+    {
+        const std::string path = folder_.filePath("scene.ma").toStdString();
+        mel("file -rename \"" + path + "\"; file -save -type \"mayaAscii\"");
+        mel("file -f -new");
+        mel("file -f -open \"" + path + "\"");
+        mel("select -cl"); // the first event after a scene was opened goes unheard
+    }
+    void lockSome()
+    {
+        loadBody();
+        selectColumn(0);
+        alsoSelectRow(2);
+        alsoSelect(4, 2);
+        call("newLockSelected");
+        ASSERT_EQ(locked(), "#.. #.. ### #.. #.#");
+    }
+
+private:
+    QTemporaryDir folder_;
+};
+
+TEST_F(lockFiles, bringBackEveryKindOfLock)
+{
+    lockSome();
+    const std::string before = stored();
+    saveAndOpen();
+    load("body");
+    EXPECT_EQ(locked(), "#.. #.. ### #.. #.#");
+    EXPECT_EQ(stored(), before);
+    EXPECT_TRUE(isLockedInMaya("hip"));
+    EXPECT_EQ(takeErrors() + takeWarnings(), "");
+}
+
+TEST_F(lockFiles, holdTheLocksOfVerticesThatAreNotLoaded)
+{
+    lockSome();
+    saveAndOpen();
+    load("body.vtx[0] body.vtx[3]");
+    EXPECT_EQ(locked(), "#.. #.. #.#");
+    load("body.vtx[1:2]");
+    EXPECT_EQ(locked(), "#.. ### #..");
+    load("body");
+    EXPECT_EQ(locked(), "#.. #.. ### #.. #.#");
+}
+
+TEST_F(lockFiles, findTheirShapesAndJointsInAnotherOrder)
+{
+    makeSkin("shirt", {"chest", "ankle"}, {{1, 0}, {1, 0}, {0, 1}, {1, 0}});
+    loadBody();
+    load("body.vtx[0] shirt.vtx[1:2]");
+    selectColumn(2);
+    alsoSelectRow(4);
+    alsoSelect(1, 0);
+    call("newLockSelected");
+    ASSERT_EQ(locked(), "..#. #.#. ..#. ..#. ####");
+    saveAndOpen();
+    load("shirt.vtx[1:2] body.vtx[0]");
+    EXPECT_EQ(columnNames(), "chest ankle hip knee");
+    EXPECT_EQ(locked(), ".#.. .#.. #### .#.. .##.");
+}
+
+TEST_F(lockFiles, dropTheLocksOfAJointThatWasRenamed)
+{
+    loadBody();
+    lock(2, 1);
+    selectColumn(1);
+    call("newLockSelected");
+    mel("rename knee shin");
+    saveAndOpen();
+    load("body");
+    EXPECT_EQ(locked(), "... ... ... ... ...");
+    EXPECT_EQ(takeErrors() + takeInfos(), "");
+    call("setPrecision", 2);
+    EXPECT_EQ(takeErrors(), "") << "a joint that is not loaded is no lock";
+    call("newUnlockAll");
+    EXPECT_EQ(takeErrors(), kNothingToUnlock);
+}
+
+TEST_F(lockFiles, keepTheLocksOfJointsBesideOneThatWasAdded)
+{
+    lockSome();
+    mel("select -cl; joint -n toe; skinCluster -e -ai toe -wt 0 bodySkin; select -cl");
+    saveAndOpen();
+    load("body");
+    EXPECT_EQ(columnNames(), "hip knee ankle toe");
+    EXPECT_EQ(locked(), "#... #... #### #... #.#.");
+    mel("skinCluster -e -ri knee bodySkin");
+    load("body");
+    EXPECT_EQ(columnNames(), "hip ankle toe");
+    EXPECT_EQ(locked(), "#.. #.. ### #.. ##.");
+}
+
+TEST_F(lockFiles, haveNoLockWhereACellWasUnlocked)
+{
+    loadBody();
+    selectCells(2, 0, 2, 2);
+    call("lockCell");
+    selectCells(2, 0, 2, 1);
+    call("newUnlockSelected");
+    EXPECT_EQ(stored(), "cells 1[0] 1[1] 1[2]|ankle");
+    lock(2, 0);
+    EXPECT_EQ(stored(), "cells 1[0] 1[1] 1[2]|ankle 1[3]|hip");
+    saveAndOpen();
+    load("body");
+    EXPECT_EQ(locked(), "... ... #.# ... ...");
+    lock(2, 1);
+    EXPECT_EQ(locked(), "... ... ### ... ...");
+    saveAndOpen();
+    load("body");
+    EXPECT_EQ(locked(), "... ... ### ... ...");
+}
+
+// Maya does not save emptied elements, so that the number of elements may be the index of one.
+TEST_F(lockFiles, haveNoCellLockOverwrittenByTheNext)
+{
+    loadBody();
+    const auto element = [](int index, const char *joint) {
+        return "setAttr -type \"string\" bodySkin.lockedCellIndices[1].lockedLocalJoints[" +
+               std::to_string(index) + "] \"" + joint + "\";";
+    };
+    mel(element(2, "|ankle") + element(3, "|hip"));
+    load();
+    lock(2, 1);
+    EXPECT_EQ(stored(), "cells 1[2]|ankle 1[3]|hip 1[4]|knee");
+    selectCells(2, 0, 2, 2);
+    call("unlockCell");
+    EXPECT_EQ(stored(), "cells 1[2] 1[3] 1[4]");
+    lock(2, 0);
+    EXPECT_EQ(stored(), "cells 1[2] 1[3]|hip 1[4]") << "where no name stands";
+}
+
+TEST_F(lockFiles, bringBackTheLocksOfScenesThatPeopleMade)
+{
+    if (!qEnvironmentVariableIsSet("KORVEX_SCENES"))
+        GTEST_SKIP() << "KORVEX_SCENES names no folder of scenes";
+    const QDir scenes(qEnvironmentVariable("KORVEX_SCENES"));
+    int skinCount = 0;
+    for (const QString &name : scenes.entryList({"*.ma"})) {
+        SCOPED_TRACE(name.toStdString());
+        mel("file -f -open \"" + scenes.filePath(name).toStdString() + "\"");
+        mel("select -cl");
+        const std::string skins = melStrings("ls -type skinCluster");
+        const std::string shape =
+            skins.empty() ? ""
+                          : melStrings("skinCluster -q -g " + skins.substr(0, skins.find(' ')));
+        load(shape);
+        if (model_->rowCount() < 4 || model_->columnCount() < 2)
+            continue; // nothing skinned, or skinned without a deformer set
+        takeInfos();
+        takeErrors();
+        selectColumn(0);
+        alsoSelectRow(2);
+        alsoSelect(3, 1);
+        call("newLockSelected");
+        // By whoever made the scene: the joint, or the whole skin cluster.
+        if (takeInfos() == kJointAlreadyLocked || !takeErrors().empty())
+            continue;
+        const std::string before = locked();
+        saveAndOpen();
+        load(shape);
+        EXPECT_TRUE(locked() == before);
+        EXPECT_NE(before.find('#'), std::string::npos);
+        ++skinCount;
+    }
+    EXPECT_GT(skinCount, 0) << "no scene was checked";
+}
