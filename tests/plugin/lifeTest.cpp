@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// The plug-in's coming and going.
+
+#include "model/messages.h"
+#include "support/editorScene.h"
+
+class life : public EditorScene
+{
+};
+
+TEST_F(life, hasOneWindowHoweverOftenItIsAskedFor)
+{
+    window_->hide();
+    mel("korvexCmd; korvexCmd");
+    EXPECT_EQ(windows(), std::vector<QWidget *>{window_});
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_EQ(window_->windowTitle(), "Korvex");
+}
+
+TEST_F(life, survivesBeingLoadedTwice)
+{
+    makeSkin("body", {"hip"}, {{1}, {1}, {1}, {1}});
+    load("body");
+    mel("loadPlugin \"" KORVEX_PLUGIN_DIR "/korvex.so\"");
+    EXPECT_EQ(windows(), std::vector<QWidget *>{window_});
+    EXPECT_EQ(model_->rowCount(), 5);
+}
+
+TEST_F(life, endsWithItsWindowAndItsCallbacks)
+{
+    makeSkin("body", {"hip"}, {{1}, {1}, {1}, {1}});
+    load("body");
+    EXPECT_NE(melError("unloadPlugin korvex"), "") << "its command is on the undo queue";
+    mel("flushUndo; unloadPlugin korvex");
+    EXPECT_EQ(windows(), std::vector<QWidget *>{});
+    mel("select body.vtx[0]; select -cl"); // a callback left would run code that is gone
+    EXPECT_NE(melError("korvexCmd"), "");
+    mel("loadPlugin \"" KORVEX_PLUGIN_DIR "/korvex.so\"");
+}
+
+TEST_F(life, carriesNoEditBeforeTheWindowWasOpened)
+{
+    mel("flushUndo; unloadPlugin korvex; loadPlugin \"" KORVEX_PLUGIN_DIR "/korvex.so\"");
+    EXPECT_EQ(windows(), std::vector<QWidget *>{});
+    for (const char *flag : {"-setData", "-sd", "-numMax", "-round", "-replace", "-dragSlider",
+                             "-dragSliderColumn", "-skinPaintSmooth", "-smoothSkinWeights"})
+        EXPECT_EQ(melError(std::string("korvexCmd ") + flag), kWindowNeverOpened) << flag;
+    EXPECT_NE(melError("korvexCmd -potato"), "");
+    EXPECT_NE(melError("korvexCmd -setData 3"), "");
+    EXPECT_NE(melError("korvexCmd -q -setData"), "");
+    EXPECT_NE(melError("korvexCmd -e -setData"), "");
+}
+
+TEST_F(life, endsWithAWindowThatSomebodyElseDeletes)
+{
+    makeSkin("body", {"hip"}, {{1}, {1}, {1}, {1}});
+    delete window_;
+    mel("select body; korvexCmd");
+    ASSERT_EQ(windows().size(), 1u);
+    EXPECT_NE(windows().front()->findChild<QTableView *>(), nullptr);
+}
