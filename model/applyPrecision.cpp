@@ -119,7 +119,7 @@ void weightTableModel::redoApplyPrecision()
 // `rows` are of the table's shape, or empty. What was written before the operation stops stays.
 void weightTableModel::writeRows(const weightRows &rows)
 {
-    QVector<rowWriter> writers;
+    QList<rowWriter> writers;
     for (int shape = 0; shape < weights_.shapeCount(); ++shape)
         writers.append(rowWriter(weights_, shape));
     for (int r = 0; r < rows.size(); ++r) {
