@@ -48,8 +48,7 @@ const char kVertexNotLocked[] = "The selected vertex is not in the locked list."
 const char kShapeNotInTable[] = "There is something wrong finding the shape in the weightList.";
 const char kLocksNotStored[] = // ^1s: a skin cluster
     "The locks could not be stored on ^1s: it is locked or cannot be written to. They are lost "
-    "when "
-    "the table is loaded again.";
+    "when the table is loaded again.";
 
 // Precision and snapshots.
 const char kInvalidPrecision[] = "The precision value is not set up correctly.";
