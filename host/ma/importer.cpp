@@ -8,6 +8,7 @@
 
 #include "ma/maFile.h"
 #include "ma/sceneWriter.h"
+#include "ma/sessionMark.h"
 #include "scene/error.h"
 
 namespace host::ma
@@ -67,8 +68,21 @@ void giveFreeNames(Scene &imported, const Scene &target, const std::string &name
         forceName(imported, node, freeName(imported, target, name));
 }
 
+// Plug-ins' default nodes may be missing in the target; then their connections are.
+void runStatement(mel::Context &context, const mel::Statement &statement)
+{
+    try {
+        context.interpreter.call(context, statement);
+    } catch (const Error &error) {
+        if (statement.command != "connectAttr")
+            throw;
+        context.session.output().warning(error.what());
+    }
+}
+
 void runText(mel::Interpreter &interpreter, std::string_view text, Scene &target)
 {
+    const SessionMark mark(interpreter.session().isReadingFile);
     NodePtr currentNode;
     mel::Context context{interpreter.session(), interpreter, &currentNode, true,
                          text.size(),           &target};
@@ -80,7 +94,7 @@ void runText(mel::Interpreter &interpreter, std::string_view text, Scene &target
         if (const mel::SyntaxError error = mel::parseScript(text.substr(0, end), script))
             throw Error(error.message);
         for (const mel::Statement &statement : script.statements)
-            interpreter.call(context, statement);
+            runStatement(context, statement);
         text.remove_prefix(end);
     }
 }

@@ -5,6 +5,7 @@
 #include <cctype>
 
 #include "ma/maFile.h"
+#include "ma/sessionMark.h"
 #include "scene/error.h"
 
 namespace host::ma
@@ -53,23 +54,6 @@ bool hasFlag(const mel::Statement &statement, std::string_view shortFlag, std::s
         });
 }
 
-// A flag of the session that stands while a file is read.
-class ReadingMark
-{
-public:
-    explicit ReadingMark(Session &session) : session_(session), before_(session.isReadingFile)
-    {
-        session_.isReadingFile = true;
-    }
-    ~ReadingMark() { session_.isReadingFile = before_; }
-    ReadingMark(const ReadingMark &) = delete;
-    ReadingMark &operator=(const ReadingMark &) = delete;
-
-private:
-    Session &session_;
-    bool before_;
-};
-
 } // namespace
 
 Reader::Reader(mel::Interpreter &interpreter, const std::string &path, Scene &target)
@@ -82,7 +66,7 @@ Reader::Reader(mel::Interpreter &interpreter, const std::string &path, Scene &ta
 
 void Reader::run()
 {
-    const ReadingMark mark(interpreter_.session());
+    const SessionMark mark(interpreter_.session().isReadingFile);
     target_.facts.mayaVersion = file_.version();
     StatementText statement;
     while (statements_.next(statement)) {

@@ -7,6 +7,7 @@
 
 #include "ma/maFile.h"
 #include "ma/outputFile.h"
+#include "ma/sessionMark.h"
 
 namespace host::ma
 {
@@ -35,23 +36,6 @@ std::string commentText(std::string text)
     return text;
 }
 
-// Marks the session while a file is written.
-class WritingMark
-{
-public:
-    explicit WritingMark(Session &session) : session_(session), before_(session.isWritingFile)
-    {
-        session_.isWritingFile = true;
-    }
-    ~WritingMark() { session_.isWritingFile = before_; }
-    WritingMark(const WritingMark &) = delete;
-    WritingMark &operator=(const WritingMark &) = delete;
-
-private:
-    Session &session_;
-    bool before_;
-};
-
 } // namespace
 
 SceneWriter::SceneWriter(StatementWriter &out, Scene &scene)
@@ -78,6 +62,7 @@ void SceneWriter::writeFile(const std::string &fileName)
 
 void SceneWriter::writeNodesFor(const std::vector<NodePtr> &present)
 {
+    isForOther_ = true;
     present_ = present;
     writeBelow(scene_.world());
     writeLateInstances();
@@ -182,6 +167,8 @@ void SceneWriter::writeConnections()
 void SceneWriter::writeConnectionsInto(const NodePtr &node)
 {
     const FlagNames &flags = style_.flags;
+    // A node that another scene has too may join its lists, but not take its connections.
+    const bool isElsewhere = isForOther_ && (node->isDefault() || isPresent(node));
     std::vector<std::pair<PlugKey, Connection>> sources(node->sources().begin(),
                                                         node->sources().end());
     std::sort(sources.begin(), sources.end(),
@@ -189,6 +176,8 @@ void SceneWriter::writeConnectionsInto(const NodePtr &node)
     for (const auto &[key, connection] : sources) {
         Plug destination = node->plugOf(key);
         const bool takesNext = destination.isElement() && !destination.attribute->indexMatters;
+        if (isElsewhere && !takesNext)
+            continue;
         if (takesNext)
             destination = destination.array();
         out_.begin("connectAttr")
@@ -204,7 +193,7 @@ void SceneWriter::writeConnectionsInto(const NodePtr &node)
 
 void writeFile(Session &session, const std::string &path)
 {
-    const WritingMark mark(session);
+    const SessionMark mark(session.isWritingFile);
     OutputFile file(path);
     StatementWriter out([&file](std::string_view text) { file.write(text); });
     SceneWriter(out, session.scene()).writeFile(path.substr(path.rfind('/') + 1));

@@ -21,7 +21,7 @@ public:
     void writeFile(const std::string &fileName);
 
     // Nodes and connections only, for another scene: what that scene has anyway, default nodes and
-    // the nodes in `present`, is named in connections but not written.
+    // the nodes in `present`, is named in connections but not changed.
     void writeNodesFor(const std::vector<NodePtr> &present);
 
 private:
@@ -39,6 +39,7 @@ private:
     Scene &scene_;
     FileStyle style_;
     NodeWriter nodes_;
+    bool isForOther_ = false;
     std::vector<NodePtr> present_;
     std::vector<NodePtr> written_;                            // in the order of their createNode
     std::unordered_map<const Node *, std::size_t> instances_; // of nodes with several: done so far
