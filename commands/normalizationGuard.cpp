@@ -15,7 +15,8 @@ normalizationGuard::normalizationGuard(const MFnDependencyNode &skinCluster)
     int mode = kNone;
     if (!plug_.getValue(mode) || mode != kNone)
         return;
-    isSwitched_ = plug_.setInt(kInteractive);
+    // Asked first, since Maya has words of its own for an attempt.
+    isSwitched_ = plug_.isFreeToChange() == MPlug::kFreeToChange && plug_.setInt(kInteractive);
     isNormalizing_ = isSwitched_;
 }
 

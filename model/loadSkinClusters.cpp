@@ -53,6 +53,7 @@ void weightTableModel::refreshSkinClusterData()
         roundLoadedRows(rounding);
     } else {
         weights_ = weightList();
+        weights_.notes.precision = settings_.precision;
         forgetSnapshots();
         const QVector<selectedShape> shapes = selectedShapes(selection);
         for (int i = 0; i < shapes.size(); ++i)

@@ -14,6 +14,7 @@ struct refreshNotes {
     QSet<int> otherwiseRoundedRows;
     // The same for the whole table: whoever rounds or replaces all rows sets it.
     bool allOtherwiseRounded = false;
+    int precision = 0; // decimal places of that pass
 
     // The first vertex row without any weight: that pass gives no residual to the rows below.
     // -1: there is none.

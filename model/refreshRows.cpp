@@ -99,7 +99,8 @@ void weightTableModel::refreshWritten(const QVector<writtenVertices> &written)
         rows.append(others.at(i));
     sortAndUnite(rows);
 
-    if (notes.allOtherwiseRounded || !refreshListRows(rows))
+    const bool allChange = notes.allOtherwiseRounded || notes.precision != settings_.precision;
+    if (allChange || !refreshListRows(rows))
         refreshAllRows();
     notes.otherwiseRoundedRows.clear();
     notes.allOtherwiseRounded = false;
@@ -142,6 +143,7 @@ void weightTableModel::refreshAllRows()
     wholeListRounding rounding(settings_.precision);
     int &firstWithout = weights_.notes.firstRowWithoutWeight;
     firstWithout = -1;
+    weights_.notes.precision = settings_.precision;
     for (int shape = 0; shape < weights_.shapeCount(); ++shape) {
         const int first = weights_.firstVertexRow(shape);
         shapeReader reader(weights_, shape);

@@ -79,8 +79,6 @@ void shapeReader::read(const weightList &weights, int shape, const QVector<int> 
                        const MObject &component)
 {
     const QVector<int> columns = columnsOfInfluences(weights.skinClusters[shape], weights);
-    if (columns.contains(-1))
-        return;
     const MStatus status =
         MFnSkinCluster(weights.skinClusters[shape])
             .getWeights(weights.shapePaths[shape], component, weights_, influenceCount_);

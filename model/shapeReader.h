@@ -17,13 +17,11 @@ QVector<int> columnsOfInfluences(const MObject &skinCluster, const weightList &w
 class shapeReader
 {
 public:
-    // REQUIRES: the list's joint columns hold all influences of the shape, unless they changed
-    // since the list was loaded.
     shapeReader(const weightList &weights, int shape);
     // Only these of its vertices, which are to ascend.
     shapeReader(const weightList &weights, int shape, const QVector<int> &vertices);
 
-    // Zero for what is no mesh, could not be read, or has influences that are not loaded.
+    // Zero for what is no mesh or could not be read. Influences that are not loaded are left out.
     int vertexCount() const { return static_cast<int>(vertices_.size()); }
     // The number of the k-th vertex that was read.
     int vertex(int k) const { return vertices_.at(k); }

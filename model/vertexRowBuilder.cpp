@@ -13,7 +13,8 @@ vertexRowBuilder::vertexRowBuilder(int shapeIndex, int columnCount, const QVecto
     entries_.reserve(columns.size());
     for (int influence = 0; influence < columns.size(); ++influence) {
         entries_.append(entryOf(columns.at(influence)));
-        unweightedRow_[entries_.last()] = 0.0;
+        if (entries_.last() > 0)
+            unweightedRow_[entries_.last()] = 0.0;
     }
 }
 
@@ -28,7 +29,8 @@ weightRow vertexRowBuilder::build(const double *weights, double *sum) const
     for (int influence = 0; influence < influences; ++influence) {
         const double weight = weights[influence];
         if (weight != 0.0) {
-            cells[entries[influence]] = weight;
+            if (entries[influence] > 0)
+                cells[entries[influence]] = weight;
             total += weight;
         }
     }

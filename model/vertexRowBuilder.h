@@ -14,7 +14,8 @@ class vertexRowBuilder
 {
 public:
     // `columns` holds the joint column of each influence of the shape's skin cluster, in the order
-    // of its weights, each between 0 and columnCount - 1.
+    // of its weights, each below columnCount; -1 for one that has none, whose weight only adds to
+    // the sum.
     vertexRowBuilder(int shapeIndex, int columnCount, const QVector<int> &columns);
 
     // The row of a vertex. `weights` points to one weight per influence; `sum` receives their sum.

@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace
 {
@@ -119,4 +121,41 @@ TEST(wholeListRounding, passesOverARowWithoutColumns)
     EXPECT_TRUE(rounding.metRowWithoutColumns());
     EXPECT_FALSE(rounding.metRowWithoutWeight());
     expectCells(after, {0.0, 0.3, 0.3, 0.4}, "after");
+}
+
+TEST(roundEditedRow, givesTheResidualToTheFirstWeightThatMayTakeIt)
+{
+    const struct {
+        const char *what;
+        std::vector<int> barred; // columns
+        weightRow row;
+        weightRow expected;
+        bool found;
+    } cases[] = {
+        {"edited first", {0}, {0.0, 0.5, 0.255, 0.245}, {0.0, 0.5, 0.25, 0.25}, true},
+        {"edited second", {1}, {0.0, 0.504, 0.3, 0.196}, {0.0, 0.5, 0.3, 0.2}, true},
+        {"past the locked", {0, 1}, {0.0, 0.5, 0.343, 0.333}, {0.0, 0.5, 0.34, 0.16}, true},
+        {"past markers", {0}, {1.0, 0.5, -2.0, 0.0, 0.25}, {1.0, 0.5, -2.0, 0.0, 0.5}, true},
+        {"nobody", {0, 1}, {0.0, 0.504, 0.496}, {0.0, 0.5, 0.5}, false},
+        {"one weight", {0}, {0.0, 0.504, 0.0}, {0.0, 0.5, 0.0}, true},
+        {"no weight", {}, {0.0, 0.0, -2.0}, {0.0, 0.0, -2.0}, true},
+        {"rounded away", {0}, {0.0, 1.0, 0.001}, {0.0, 1.0, 0.0}, true},
+        {"far too much", {0}, {0.0, 0.9, 0.5, 0.3}, {0.0, 0.9, -0.2, 0.3}, true},
+        {"never a marker", {0}, {0.0, 1.0, 0.5, 1.0}, {0.0, 1.0, 0.0, 1.0}, true},
+    };
+    for (const auto &c : cases) {
+        weightRow row = c.row;
+        const auto mayTake = [&c](int column) {
+            return std::find(c.barred.begin(), c.barred.end(), column) == c.barred.end();
+        };
+        EXPECT_EQ(roundEditedRow(row, 2, mayTake), c.found) << c.what;
+        expectCells(row, c.expected, c.what);
+    }
+}
+
+TEST(roundEditedRow, givesTheResidualToTheFirstEqual)
+{
+    weightRow row = {0.0, 0.33, 0.33, 0.33};
+    EXPECT_TRUE(roundEditedRow(row, 2, [](int column) { return column == 1; }));
+    expectCells(row, {0.0, 0.34, 0.33, 0.33}, "the first of the equal ones may not, and does");
 }

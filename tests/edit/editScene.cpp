@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "edit/editScene.h"
+
+#include <cstdio>
+
+void EditScene::loadBody()
+{
+    makeSkin("body", {"hip", "knee", "ankle"},
+             {{0.5, 0.3, 0.2}, {0.25, 0.25, 0.5}, {0.334, 0.333, 0.333}, {1, 0, 0}});
+    load("body");
+}
+
+bool EditScene::type(int row, int column, const std::string &text)
+{
+    selectCells(row, column, row, column);
+    return typeIntoSelection(row, column, text);
+}
+
+bool EditScene::typeIntoSelection(int row, int column, const std::string &text)
+{
+    return model_->setData(model_->index(row, column), QString::fromStdString(text));
+}
+
+std::string EditScene::shown(int row) const
+{
+    std::string text;
+    for (int column = 0; column < model_->columnCount(); ++column)
+        text +=
+            (column > 0 ? " " : "") + cell(row, column, Qt::DisplayRole).toString().toStdString();
+    return text;
+}
+
+std::string EditScene::weights(int vertex, const std::string &mesh)
+{
+    std::string text;
+    for (const double weight : melNumbers("skinPercent -q -v " + mesh + "Skin " + mesh + ".vtx[" +
+                                          std::to_string(vertex) + "]")) {
+        char digits[32];
+        std::snprintf(digits, sizeof digits, "%s%.6g", text.empty() ? "" : " ", weight);
+        text += digits;
+    }
+    return text;
+}
+
+std::string EditScene::undoItems()
+{
+    return melString("undoInfo -q");
+}

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: Apache-2.0
+// The loaded plug-in with its window, typed into.
+#pragma once
+
+#include "edit/infoRecorder.h"
+#include "support/editorScene.h"
+
+class EditScene : public EditorScene
+{
+protected:
+    // Rows 1 to 4, under columns hip, knee and ankle.
+    void loadBody();
+
+    // Types into a cell that is selected alone, or with whatever is selected. What setData returns.
+    bool type(int row, int column, const std::string &text);
+    bool typeIntoSelection(int row, int column, const std::string &text);
+
+    // "0.500 0.300 0.200": cells of the table, and what the skin cluster holds.
+    std::string shown(int row) const;
+    static std::string weights(int vertex, const std::string &mesh = "body");
+
+    static std::string undoItems();
+
+    InfoRecorder infos_;
+};

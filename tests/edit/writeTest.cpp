@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// What writers write, and the replay takes back.
+
+#include "edit/preparedScene.h"
+#include "model/messages.h"
+
+class writeEdit : public PreparedScene
+{
+};
+
+TEST_F(writeEdit, dropsTheSmallestWeightsOneByOne)
+{
+    makeSkin("body", {"a", "b", "c", "d"},
+             {{.4, .3, .2, .1}, {.25, .25, .25, .25}, {.5, .5, 0, 0}, {1, 0, 0, 0}});
+    load("body");
+    const std::string before = weights("body");
+    handOver_.maxInfluenceRows = {1, 2, 3, 4};
+    const struct {
+        int maxInfluences;
+        int writes;
+        const char *weights;
+    } cases[] = {
+        {4, 0, "0.4 0.3 0.2 0.1; 0.25 0.25 0.25 0.25; 0.5 0.5 0 0; 1 0 0 0"},
+        {3, 2, "0.4444 0.3333 0.2222 0; 0 0.3333 0.3333 0.3333; 0.5 0.5 0 0; 1 0 0 0"},
+        {2, 2, "0.5714 0.4286 0 0; 0 0 0.5 0.5; 0.5 0.5 0 0; 1 0 0 0"},
+        {1, 3, "1 0 0 0; 0 0 0 1; 0 1 0 0; 1 0 0 0"},
+    };
+    for (const auto &c : cases) {
+        maxInfluences_ = c.maxInfluences;
+        ASSERT_EQ(prepare(prepareMaxInfluences), preparation::ready);
+        EXPECT_EQ(edit_.writes.size(), c.writes);
+        EXPECT_TRUE(writeMaxInfluences(edit_));
+        EXPECT_EQ(weights("body"), c.weights);
+        EXPECT_EQ(bool(replayDisplaced(edit_)), c.writes > 0);
+        EXPECT_EQ(weights("body"), before) << "in one step";
+    }
+}
+
+TEST_F(writeEdit, stopsAtAJointThatIsNoInfluence)
+{
+    makeSkin("body", {"a", "b", "c"}, {{.5, .3, .2}, {.2, .3, .5}, {.5, .3, .2}, {1, 0, 0}});
+    load("body");
+    mel("skinCluster -e -ri c bodySkin");
+    maxInfluences_ = 2;
+    handOver_.maxInfluenceRows = {2, 1, 3};
+    ASSERT_EQ(prepare(prepareMaxInfluences), preparation::ready);
+    EXPECT_FALSE(writeMaxInfluences(edit_));
+    EXPECT_EQ(infos_.take(), kNoInfluence);
+    EXPECT_EQ(weights("body").substr(7 * 0, 13), "0.625 0.375; ") << "row 1 comes after the stop";
+    EXPECT_EQ(edit_.oldWeights.size(), 2) << "row 2 was written, row 1 broke off";
+    EXPECT_TRUE(replayDisplaced(edit_));
+}
+
+TEST_F(writeEdit, roundsWithoutNormalizing)
+{
+    makeSkin("body", {"a", "b"}, {{.123, .877}, {.5, .5}, {1, 0}, {1, 0}});
+    makeSkin("hat", {"b", "c"}, {{.3, .7}, {.3, .7}, {.3, .7}, {.3, .7}});
+    load("hat body.vtx[0:1]");
+    const std::string before = weights("body") + weights("hat");
+    handOver_.roundedRows = model_.weights().rows;
+    handOver_.roundedRows[6][3] = 0.9; // body.vtx[0] under b, c, a: rows 0 to 4 are the hat's
+    for (const char *mode : {"0", "2"}) {
+        mel(std::string("setAttr bodySkin.nw ") + mode);
+        ASSERT_EQ(prepare(prepareRounding), preparation::ready);
+        EXPECT_TRUE(writeRounding(edit_));
+        EXPECT_EQ(melString("getAttr bodySkin.nw"), mode);
+        EXPECT_NE(weights("body").find("0.9"), std::string::npos) << weights("body");
+        EXPECT_TRUE(replayDisplaced(edit_));
+        EXPECT_EQ(weights("body") + weights("hat"), before);
+    }
+}
+
+TEST_F(writeEdit, floodsOneShapeWithOneValue)
+{
+    makeSkin("body", {"a", "b"}, {{.5, .5}, {1, 0}, {.2, .8}, {0, 1}});
+    makeSkin("hat", {"b", "c"}, {{.3, .7}, {.3, .7}, {.3, .7}, {.3, .7}});
+    load("hat body.vtx[0:2]");
+    mel("setAttr bodySkin.nw 0");
+    handOver_.floodShapes = {1};
+    handOver_.operationColumn = 0; // b
+    handOver_.floodValue = 0.25;
+    ASSERT_EQ(prepare(prepareFlood), preparation::ready);
+    EXPECT_TRUE(writeFlood(edit_));
+    EXPECT_EQ(weights("body"), "0.75 0.25; 0.75 0.25; 0.75 0.25; 0 1") << "the last is not loaded";
+    EXPECT_EQ(weights("hat"), "0.3 0.7; 0.3 0.7; 0.3 0.7; 0.3 0.7");
+    EXPECT_EQ(melString("getAttr bodySkin.nw"), "0");
+    EXPECT_TRUE(replayDisplaced(edit_));
+    EXPECT_EQ(weights("body"), "0.5 0.5; 1 0; 0.2 0.8; 0 1");
+    EXPECT_EQ(melString("getAttr bodySkin.nw"), "0");
+}
+
+TEST_F(writeEdit, dragsAColumnPastLockedJoints)
+{
+    makeSkin("body", {"a", "b", "c"}, {{.5, .3, .2}, {.1, .9, 0}, {0, .5, .5}, {.9, 0, .1}});
+    mel("setAttr bodySkin.ihi 1; addAttr -dt stringArray -ln lockedJointNames bodySkin;"
+        "setAttr bodySkin.lockedJointNames -type stringArray 1 \"|c\"");
+    load("body");
+    model_.checkLockAttr();
+    mel("setAttr c.liw 1");
+    handOver_.operationColumn = 0;
+    handOver_.columnDragDelta = 0.2;
+    ASSERT_EQ(prepare(prepareColumn), preparation::ready);
+    EXPECT_TRUE(writeColumn(edit_));
+    EXPECT_EQ(weights("body"), "0.7 0.1 0.2; 0.3 0.7 0; 0.2 0.3 0.5; 0.9 0 0.1");
+    EXPECT_EQ(melString("getAttr c.liw"), "0") << "as after every write";
+    EXPECT_TRUE(replayDisplaced(edit_));
+    EXPECT_EQ(weights("body"), "0.5 0.3 0.2; 0.1 0.9 0; 0 0.5 0.5; 0.9 0 0.1");
+
+    handOver_.columnDragIsAbsolute = true;
+    handOver_.columnDragValue = 0.4;
+    ASSERT_EQ(prepare(prepareColumn), preparation::ready);
+    EXPECT_TRUE(writeColumn(edit_));
+    EXPECT_EQ(weights("body").substr(0, 30), "0.4 0.4 0.2; 0.4 0.6 0; 0.4 0.");
+}
+
+TEST_F(writeEdit, writesNothingIntoASceneThatHasChanged)
+{
+    makeSkin("body", {"a", "b"}, {{.5, .5}, {1, 0}, {.2, .8}, {0, 1}});
+    makeSkin("hat", {"b", "c"}, {{.3, .7}, {.3, .7}, {.3, .7}, {.3, .7}});
+    load("hat body");
+    handOver_.pendingCells = {{1, 0}, {6, 0}};
+    handOver_.pendingValues = {0.9, 0.9};
+    ASSERT_EQ(prepare(prepareCells), preparation::ready);
+    EXPECT_TRUE(writeCells(edit_));
+    mel("delete bodySkin");
+    EXPECT_FALSE(replayDisplaced(edit_));
+    EXPECT_EQ(infos_.take(), kDataNotSetUp);
+    EXPECT_EQ(weights("hat"), "0.9 0.1; 0.3 0.7; 0.3 0.7; 0.3 0.7") << "all or nothing";
+    EXPECT_FALSE(writeCells(edit_));
+    EXPECT_TRUE(edit_.oldWeights.isEmpty());
+}
