@@ -3,6 +3,23 @@
 
 #include "commands/vertexComponents.h"
 
+#include <algorithm>
+
+#include <maya/MFnDependencyNode.h>
+#include <maya/MPlug.h>
+
+namespace
+{
+
+bool distributesByNeighbours(const MObject &skinCluster)
+{
+    int distribution = 0;
+    MFnDependencyNode(skinCluster).findPlug("weightDistribution", true).getValue(distribution);
+    return distribution != 0;
+}
+
+} // namespace
+
 editedShapes::editedShapes(const editSource &source, preparedEdit &edit)
     : source_(source), edit_(edit), places_(source.weights.shapeCount(), -1)
 {
@@ -19,6 +36,7 @@ int editedShapes::enter(int shape)
         return -1;
     const unsigned int s = static_cast<unsigned int>(shape);
     lookups_.push_back(influenceLookup(weights.skinClusters[s]));
+    readNeighbours_.append(distributesByNeighbours(weights.skinClusters[s]));
     editedShape entered;
     entered.skinCluster = weights.skinClusterHandles.at(shape);
     entered.path = weights.shapePaths[s];
@@ -37,10 +55,16 @@ int editedShapes::influenceOf(int place, int column) const
         weights.jointPaths[static_cast<unsigned int>(column)], weights.jointNames.value(column));
 }
 
-weightWrite &editedShapes::appendWrite(int place, int vertex)
+bool editedShapes::readsNeighbours(int place) const
 {
-    weightWrite &write = append(place, oneVertex(vertex), vertex);
-    write.vertex = vertex;
+    return readNeighbours_.at(place);
+}
+
+weightWrite &editedShapes::appendWrite(int place, const QVector<int> &vertices)
+{
+    weightWrite &write = append(place, componentOf(vertices),
+                                *std::max_element(vertices.constBegin(), vertices.constEnd()));
+    write.vertices = vertices;
     return write;
 }
 

@@ -21,8 +21,10 @@ public:
     // Where `place` is what enter() gave.
     // The influence that a joint column is there; -1 for none.
     int influenceOf(int place, int column) const;
-    // An empty write to one vertex, or to all that are loaded. Valid until the next one.
-    weightWrite &appendWrite(int place, int vertex);
+    // Whether weights made up for a vertex come from those around it (weightDistribution 1).
+    bool readsNeighbours(int place) const;
+    // A write to some vertices, or to all that are loaded, without values. Valid until the next.
+    weightWrite &appendWrite(int place, const QVector<int> &vertices);
     weightWrite &appendWriteToAll(int place, int shape);
 
 private:
@@ -32,4 +34,5 @@ private:
     preparedEdit &edit_;
     QVector<int> places_; // by loaded shape; -1: not entered yet
     std::vector<influenceLookup> lookups_;
+    QVector<bool> readNeighbours_; // by place
 };

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "commands/cellGroups.h"
 #include "commands/editedShapes.h"
 #include "commands/preparers.h"
 
 #include "model/messages.h"
 
 #include <QHash>
+
+#include <algorithm>
 
 #include <maya/MGlobal.h>
 
@@ -37,8 +40,9 @@ preparation fail(const char *message)
     return preparation::failed;
 }
 
-// Appends the cell's write, without its value.
-preparation prepareCell(const editSource &source, const cellIndex &cell, editedShapes &shapes)
+// Finds the cell in its skin cluster. `found` gets all but its value.
+preparation findCell(const editSource &source, const cellIndex &cell, editedShapes &shapes,
+                     influenceCell &found)
 {
     const weightList &weights = source.weights;
     if (cell.row < 0)
@@ -48,25 +52,56 @@ preparation prepareCell(const editSource &source, const cellIndex &cell, editedS
     const weightRow &row = weights.rows.at(cell.row);
     if (!isVertexRow(row))
         return fail(kNoEditableCell);
-    const int vertex = weights.rowNames.vertex(cell.row);
-    if (vertex < 0)
+    found.row = cell.row;
+    found.column = cell.column;
+    found.vertex = weights.rowNames.vertex(cell.row);
+    if (found.vertex < 0)
         return fail(kNoVertexNumber);
-    const int place = shapes.enter(shapeIndexOf(row));
-    if (place < 0)
+    found.place = shapes.enter(shapeIndexOf(row));
+    if (found.place < 0)
         return preparation::outdated;
-    const int influence = shapes.influenceOf(place, cell.column);
-    if (influence < 0)
-        return fail(kNoJointIndex);
-    shapes.appendWrite(place, vertex).influence = influence;
-    return preparation::ready;
+    found.influence = shapes.influenceOf(found.place, cell.column);
+    return found.influence < 0 ? fail(kNoJointIndex) : preparation::ready;
 }
 
-void holdOthers(const QVector<int> &locked, int editedColumn, const weightList &weights,
-                weightWrite &write)
+// What joints are held differs by row. Weights that Maya makes up may come from the vertices
+// around, and then it counts who was written first.
+cellGrouping groupingOf(const influenceCell &cell, const columnsByRow &locked,
+                        const editedShapes &shapes)
 {
-    for (int i = 0; i < locked.size(); ++i) {
-        if (locked.at(i) != editedColumn)
-            write.heldJoints.append(weights.jointPaths[static_cast<unsigned int>(locked.at(i))]);
+    if (shapes.readsNeighbours(cell.place))
+        return cellGrouping::inOrder;
+    return locked.value(cell.row).isEmpty() ? cellGrouping::together : cellGrouping::alone;
+}
+
+bool isAbove(const influenceCell &first, const influenceCell &second)
+{
+    return first.vertex < second.vertex;
+}
+
+// Values stand in the order of the component, that of the vertices.
+void appendWrite(cellGroup group, const columnsByRow &locked, const weightList &weights,
+                 editedShapes &shapes)
+{
+    std::sort(group.begin(), group.end(), isAbove);
+    const influenceCell &first = group.first();
+    QVector<int> vertices;
+    MDoubleArray values;
+    bool areEqual = true;
+    for (int i = 0; i < group.size(); ++i) {
+        vertices.append(group.at(i).vertex);
+        values.append(group.at(i).value);
+        areEqual = areEqual && group.at(i).value == first.value;
+    }
+    weightWrite &write = shapes.appendWrite(first.place, vertices);
+    write.influence = first.influence;
+    write.value = first.value;
+    if (!areEqual)
+        write.values = values;
+    const QVector<int> columns = locked.value(first.row);
+    for (int i = 0; i < columns.size(); ++i) {
+        if (columns.at(i) != first.column)
+            write.heldJoints.append(weights.jointPaths[static_cast<unsigned int>(columns.at(i))]);
     }
 }
 
@@ -80,14 +115,16 @@ preparation prepareCells(const editSource &source, preparedEdit &edit)
         return preparation::outdated;
     const columnsByRow locked = lockedColumns(source);
     editedShapes shapes(source, edit);
-    edit.writes.reserve(cells.size());
+    cellGroups grouped;
     for (int i = 0; i < cells.size(); ++i) {
-        const preparation cell = prepareCell(source, cells.at(i), shapes);
-        if (cell != preparation::ready)
-            return cell;
-        edit.writes.last().value = values.at(i);
-        holdOthers(locked.value(cells.at(i).row), cells.at(i).column, source.weights,
-                   edit.writes.last());
+        influenceCell cell = {-1, -1, -1, values.at(i), -1, -1};
+        const preparation found = findCell(source, cells.at(i), shapes, cell);
+        if (found != preparation::ready)
+            return found;
+        grouped.append(cell, groupingOf(cell, locked, shapes));
     }
+    const QVector<cellGroup> groups = grouped.inOrder();
+    for (int i = 0; i < groups.size(); ++i)
+        appendWrite(groups.at(i), locked, source.weights, shapes);
     return preparation::ready;
 }

@@ -47,7 +47,7 @@ preparation prepareMaxInfluences(const editSource &source, preparedEdit &edit)
         if (place < 0)
             return preparation::outdated;
         findInfluences(shapes, place, weights.jointCount(), edit.shapes[place]);
-        weightWrite &write = shapes.appendWrite(place, vertex);
+        weightWrite &write = shapes.appendWrite(place, QVector<int>(1, vertex));
         write.row = row;
         write.drops = count - source.maxInfluences;
     }

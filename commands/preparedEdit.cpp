@@ -10,10 +10,10 @@ QVector<writtenVertices> verticesOf(const preparedEdit &edit)
     }
     for (int i = 0; i < edit.writes.size(); ++i) {
         const weightWrite &write = edit.writes.at(i);
-        if (write.vertex < 0)
+        if (write.vertices.isEmpty())
             written[write.shape].allVertices = true;
         else
-            written[write.shape].vertices.append(write.vertex);
+            written[write.shape].vertices += write.vertices;
     }
     return written;
 }

@@ -28,11 +28,11 @@ struct editedShape {
 struct weightWrite {
     int shape = -1; // in preparedEdit::shapes
     MObject component;
-    int vertex = -1; // if the component is one vertex
+    QVector<int> vertices; // of the component; empty if it is all that are loaded
 
     int influence = -1;  // where one influence is written
     double value = 0.0;  // where all vertices get the same
-    MDoubleArray values; // vertex by vertex: of that influence, or of all
+    MDoubleArray values; // else vertex by vertex: of that influence, or of all
 
     // Joints that Maya must hold meanwhile.
     MDagPathArray heldJoints;

@@ -54,8 +54,10 @@ MStatus shapeWriter::setInfluence(const MObject &component, int influence, doubl
 MStatus shapeWriter::setInfluence(const MObject &component, int influence, MDoubleArray values,
                                   MDoubleArray &old)
 {
+    // What this setWeights gives as old weights, of these influences or of all, Maya leaves open.
+    old = weightsOf(component);
     MIntArray influences(1, influence);
-    return skinCluster_.setWeights(path_, component, influences, values, true, &old);
+    return skinCluster_.setWeights(path_, component, influences, values, true);
 }
 
 MStatus shapeWriter::setAll(const MObject &component, MDoubleArray values, MDoubleArray &old)
@@ -106,9 +108,9 @@ MStatus writeEach(preparedEdit &edit, writeStep step)
     MStatus status;
     edit.oldWeights.reserve(edit.writes.size());
     for (int i = 0; i < edit.writes.size(); ++i) {
-        MDoubleArray old;
-        status = step(writers.of(edit.writes.at(i)), edit.writes.at(i), old);
-        edit.oldWeights.append(old);
+        edit.oldWeights.append(MDoubleArray());
+        const weightWrite &write = edit.writes.at(i);
+        status = step(writers.of(write), write, edit.oldWeights.last());
     }
     return status;
 }

@@ -2,12 +2,21 @@
 #include "commands/vertexComponents.h"
 
 #include <maya/MFnSingleIndexedComponent.h>
+#include <maya/MIntArray.h>
 
 MObject oneVertex(int vertex)
 {
+    return componentOf(QVector<int>(1, vertex));
+}
+
+MObject componentOf(const QVector<int> &vertices)
+{
+    MIntArray elements;
+    for (int i = 0; i < vertices.size(); ++i)
+        elements.append(vertices.at(i));
     MFnSingleIndexedComponent component;
     const MObject object = component.create(MFn::kMeshVertComponent);
-    component.addElement(vertex);
+    component.addElements(elements);
     return object;
 }
 

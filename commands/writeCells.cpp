@@ -7,6 +7,8 @@ MStatus writeCells(preparedEdit &edit)
 {
     return writeEach(edit, [](shapeWriter &writer, const weightWrite &write, MDoubleArray &old) {
         const influenceHold hold(write.heldJoints);
+        if (write.values.length() > 0)
+            return writer.setInfluence(write.component, write.influence, write.values, old);
         return writer.setInfluence(write.component, write.influence, write.value, old);
     });
 }

@@ -24,5 +24,6 @@ MStatus writeMaxInfluences(preparedEdit &edit);
 // Of all influences, with normalizeWeights as it is.
 MStatus writeRounding(preparedEdit &edit);
 MStatus writeFlood(preparedEdit &edit);
+// Cells of one joint column are written together (cellGroups.h). Joints of locked cells are held.
 MStatus writeCells(preparedEdit &edit);
 MStatus writeColumn(preparedEdit &edit);

@@ -58,7 +58,8 @@ void weightTableModel::fillPending(const typedValue &typed, const QVector<cellIn
         const QString text = index(cell.row, cell.column).data().toString();
         if (text.isEmpty())
             continue;
+        const double weight = typed.combine ? text.toDouble() : 0.0;
         handOver_.pendingCells.append(cell);
-        handOver_.pendingValues.append(targetWeight(typed, text.toDouble()));
+        handOver_.pendingValues.append(targetWeight(typed, weight));
     }
 }

@@ -65,12 +65,20 @@ void appendRowsShowing(const writtenVertices &written, const weightList &weights
     }
 }
 
+bool hasWeight(const weightRow &row)
+{
+    for (int column = 0; hasCell(row, column); ++column) {
+        if (cellOf(row, column) > 0.0)
+            return true;
+    }
+    return false;
+}
+
 // Whether a row that now holds `weights` changes which is the first row without weight.
 bool movesFirstWithoutWeight(const refreshNotes &notes, int row, const weightRow &weights)
 {
     const int first = notes.firstRowWithoutWeight;
-    const bool hasNone = summarize(weights).nonZeroCount == 0;
-    return row == first ? !hasNone : hasNone && (first < 0 || row < first);
+    return row == first ? hasWeight(weights) : (first < 0 || row < first) && !hasWeight(weights);
 }
 
 // Each row's joint column that was edited last.

@@ -5,6 +5,7 @@
 #include <maya/MDagPathArray.h>
 #include <maya/MFnSingleIndexedComponent.h>
 #include <maya/MFnSkinCluster.h>
+#include <maya/MIntArray.h>
 #include <maya/MItGeometry.h>
 #include <maya/MItMeshVertex.h>
 
@@ -38,10 +39,12 @@ MObject allVertices(const MDagPath &shape)
 
 MObject componentOf(const QVector<int> &vertices)
 {
+    MIntArray elements;
+    for (int i = 0; i < vertices.size(); ++i)
+        elements.append(vertices.at(i));
     MFnSingleIndexedComponent component;
     const MObject object = component.create(MFn::kMeshVertComponent);
-    for (int i = 0; i < vertices.size(); ++i)
-        component.addElement(vertices.at(i));
+    component.addElements(elements);
     return object;
 }
 

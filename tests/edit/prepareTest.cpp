@@ -80,11 +80,51 @@ TEST_F(prepareEdit, tellsJointsOfOneNameApart)
     EXPECT_EQ(weights("glove"), "0.75 0.25; 0.75 0.25; 0.75 0.25; 0.75 0.25");
 }
 
-TEST_F(prepareEdit, keepsWhatItHadPreparedWhenItFails)
+TEST_F(prepareEdit, writesNothingWhenItFails)
 {
     handOver_.pendingCells = {{1, 0}, {0, 0}, {2, 0}};
     handOver_.pendingValues = {0.1, 0.2, 0.3};
     EXPECT_EQ(prepare(prepareCells), preparation::failed);
-    EXPECT_EQ(edit_.writes.size(), 1);
-    EXPECT_FALSE(replayDisplaced(edit_)) << "it was never written";
+    EXPECT_EQ(infos_.take(), kNoEditableCell);
+    EXPECT_FALSE(replayDisplaced(edit_));
+    EXPECT_EQ(weights("body"), "0.5 0.5; 0.5 0.5; 0.5 0.5; 0.5 0.5");
+}
+
+// Vertices go into one write, which warns once; the cells of a row keep their order.
+TEST_F(prepareEdit, writesTheCellsOfAColumnTogether)
+{
+    const struct {
+        const char *what;
+        QVector<cellIndex> cells;
+        QVector<double> values;
+        int writes;
+        const char *weights;
+    } cases[] = {
+        {"a column", {{3, 0}, {1, 0}, {2, 0}}, {.2, .2, .2}, 1, "0.2 0.8; 0.2 0.8; 0.2 0.8"},
+        {"a column of two values",
+         {{3, 0}, {1, 0}, {2, 0}},
+         {.2, .3, .4},
+         1,
+         "0.3 0.7; 0.4 0.6; 0.2 0.8"},
+        {"row by row",
+         {{1, 0}, {1, 1}, {2, 0}, {2, 1}},
+         {.2, .3, .2, .3},
+         2,
+         "0.7 0.3; 0.7 0.3; 0.5 0.5"},
+        {"both ways",
+         {{1, 0}, {1, 1}, {2, 1}, {2, 0}},
+         {.2, .3, .3, .2},
+         4,
+         "0.7 0.3; 0.2 0.8; 0.5 0.5"},
+        {"a cell twice", {{1, 0}, {1, 0}}, {.2, .3}, 2, "0.3 0.7; 0.5 0.5; 0.5 0.5"},
+    };
+    for (const auto &c : cases) {
+        handOver_.pendingCells = c.cells;
+        handOver_.pendingValues = c.values;
+        ASSERT_EQ(prepare(prepareCells), preparation::ready);
+        EXPECT_EQ(edit_.writes.size(), c.writes) << c.what;
+        EXPECT_TRUE(writeCells(edit_));
+        EXPECT_EQ(weights("body"), std::string(c.weights) + "; 0.5 0.5") << c.what;
+        mel("select -r body.vtx[*]; skinPercent -tv hip 0.5 bodySkin; select -cl");
+    }
 }

@@ -4,11 +4,13 @@
 
 #include <functional>
 #include <random>
+#include <string>
 
 #include <gtest/gtest.h>
 
 #include "scene/sampleScene.h"
 #include "scene/sceneText.h"
+#include "scene/undoQueue.h"
 
 using namespace host;
 
@@ -205,4 +207,43 @@ TEST(undoQueue, isEmptiedByAStepThatFails)
     }
     EXPECT_FALSE(session.undoOnce());
     EXPECT_EQ(queue.undoCount() + queue.redoCount(), 0u);
+}
+
+// A command's step stands in front of those of the commands that it ran.
+TEST(undoQueue, undoesACommandAfterWhatItRanAndRedoesItBefore)
+{
+    UndoQueue queue;
+    std::string order;
+    const auto step = [&order](const char *name) {
+        return UndoStep{[&order, name] {
+                            order += std::string("-") + name;
+                            return true;
+                        },
+                        [&order, name] {
+                            order += std::string("+") + name;
+                            return true;
+                        }};
+    };
+    queue.openChunk("item");
+    queue.record(step("before"));
+    const std::size_t place = queue.openSteps();
+    queue.record(step("inner1"));
+    queue.record(step("inner2"));
+    queue.recordAt(place, step("command"));
+    queue.closeChunk();
+    queue.undo();
+    EXPECT_EQ(order, "-inner2-inner1-command-before");
+    order.clear();
+    queue.redo();
+    EXPECT_EQ(order, "+before+command+inner1+inner2");
+
+    queue.openChunk("item");
+    queue.record(step("lost"));
+    const std::size_t lostPlace = queue.openSteps();
+    queue.flush();
+    queue.recordAt(lostPlace, step("command"));
+    queue.closeChunk();
+    order.clear();
+    queue.undo();
+    EXPECT_EQ(order, "-command");
 }
