@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "riggingScene.h"
+
+#include <cstdlib>
+#include <iostream>
+#include <sstream>
+
+#include <QAbstractItemModel>
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QWidget>
+
+#include <maya/MFnSingleIndexedComponent.h>
+#include <maya/MGlobal.h>
+#include <maya/MSelectionList.h>
+#include <maya/MString.h>
+
+namespace rigging
+{
+
+namespace
+{
+
+// Ten by ten joints over the plane, each a root of its own.
+std::string makeSceneScript()
+{
+    std::ostringstream script;
+    script << "file -f -new; polyPlane -w 40 -h 25 -sx " << kColumns - 1 << " -sy " << kRows - 1
+           << " -ch 0 -n sheet;\n";
+    for (int i = 0; i < kInfluences; ++i)
+        script << "select -cl; joint -p " << (i % 10) * 4 - 18 << " 0.1 " << (i / 10) * 2.5 - 11.25
+               << " -n joint" << i << ";\n";
+    script << "skinCluster -tsb -mi 5 -dr 4 -n sheetSkin";
+    for (int i = 0; i < kInfluences; ++i)
+        script << " joint" << i;
+    script << " sheet;\n";
+    return script.str();
+}
+
+[[noreturn]] void fail(const std::string &what)
+{
+    std::cerr << "benchmark: failed: " << what.substr(0, 200) << std::endl;
+    std::exit(1);
+}
+
+} // namespace
+
+void mel(const std::string &script)
+{
+    if (!MGlobal::executeCommand(script.c_str()))
+        fail(script);
+}
+
+const std::string &sceneFile()
+{
+    static const QTemporaryDir folder;
+    static std::string path;
+    if (path.empty()) {
+        path = folder.filePath("sheet.ma").toStdString();
+        mel(makeSceneScript());
+        mel("file -rename \"" + path + "\"; file -f -save -type \"mayaAscii\"");
+    }
+    return path;
+}
+
+void openScene()
+{
+    const std::string path = sceneFile();
+    mel("file -f -open \"" + path + "\"");
+    mel("select -cl"); // the editor swallows the first event after a scene was opened
+    mel("select sheet");
+}
+
+Skin skin()
+{
+    Skin found;
+    MSelectionList list;
+    list.add("sheet");
+    list.add("sheetSkin");
+    list.getDagPath(0, found.shape);
+    found.shape.extendToShape();
+    list.getDependNode(1, found.skinCluster);
+    MFnSingleIndexedComponent component;
+    found.vertices = component.create(MFn::kMeshVertComponent);
+    component.setCompleteData(kVertices);
+    return found;
+}
+
+QAbstractItemModel &editorModel()
+{
+    mel("loadPlugin -quiet \"" KORVEX_PLUGIN_DIR "/korvex.so\"; korvexCmd");
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (!widget->inherits("korvexWindow"))
+            continue;
+        for (QObject *child : widget->findChildren<QObject *>()) {
+            if (child->inherits("weightTableModel"))
+                return *qobject_cast<QAbstractItemModel *>(child);
+        }
+    }
+    fail("korvexCmd opens a window");
+}
+
+void loadTable(QAbstractItemModel &model)
+{
+    if (!QMetaObject::invokeMethod(&model, "refreshSkinClusterData"))
+        fail("refreshSkinClusterData");
+}
+
+} // namespace rigging
