@@ -123,6 +123,13 @@ void Session::adjustSelection(const std::vector<SelectionItem> &items, Adjustmen
             hilited_.merge(object);
         }
     }
+    recordSelection(before, orderedBefore);
+    if (!before.isEmpty() || !selection_.isEmpty())
+        events_.raise("SelectionChanged");
+}
+
+void Session::recordSelection(const SelectionList &before, const SelectionList &orderedBefore)
+{
     undo_.record({[this, before, orderedBefore] {
                       restoreSelection(before, orderedBefore);
                       return true;
@@ -131,8 +138,6 @@ void Session::adjustSelection(const std::vector<SelectionItem> &items, Adjustmen
                       restoreSelection(after, orderedAfter);
                       return true;
                   }});
-    if (!before.isEmpty() || !selection_.isEmpty())
-        events_.raise("SelectionChanged");
 }
 
 void Session::restoreSelection(const SelectionList &list, const SelectionList &ordered)
@@ -161,14 +166,7 @@ void Session::dropDeletedFromLists()
     ordered_.dropDeleted();
     if (!selection_.dropDeleted())
         return;
-    undo_.record({[this, before, orderedBefore] {
-                      restoreSelection(before, orderedBefore);
-                      return true;
-                  },
-                  [this, after = selection_, orderedAfter = ordered_] {
-                      restoreSelection(after, orderedAfter);
-                      return true;
-                  }});
+    recordSelection(before, orderedBefore);
     events_.raise("SelectionChanged");
 }
 
@@ -183,27 +181,21 @@ constexpr char kDamagedUndo[] =
 bool Session::undoOnce()
 {
     const std::string name = undo_.undoName();
-    switch (undo_.undo()) {
-    case UndoQueue::Outcome::nothingLeft:
-        output_.warning("There are no more commands to undo.");
-        return true;
-    case UndoQueue::Outcome::failed:
-        output_.error(kDamagedUndo);
-        return false;
-    case UndoQueue::Outcome::done:
-        break;
-    }
-    output_.send(MessageKind::history, "// Undo: " + name);
-    events_.raise("Undo");
-    return true;
+    return reportReplay(undo_.undo(), "Undo", "undo", name);
 }
 
 bool Session::redoOnce()
 {
     const std::string name = undo_.redoName();
-    switch (undo_.redo()) {
+    return reportReplay(undo_.redo(), "Redo", "redo", name);
+}
+
+bool Session::reportReplay(UndoQueue::Outcome outcome, const std::string &event,
+                           const std::string &verb, const std::string &name)
+{
+    switch (outcome) {
     case UndoQueue::Outcome::nothingLeft:
-        output_.warning("There are no more commands to redo.");
+        output_.warning("There are no more commands to " + verb + ".");
         return true;
     case UndoQueue::Outcome::failed:
         output_.error(kDamagedUndo);
@@ -211,8 +203,8 @@ bool Session::redoOnce()
     case UndoQueue::Outcome::done:
         break;
     }
-    output_.send(MessageKind::history, "// Redo: " + name);
-    events_.raise("Redo");
+    output_.send(MessageKind::history, "// " + event + ": " + name);
+    events_.raise(event);
     return true;
 }
 

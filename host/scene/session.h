@@ -76,6 +76,11 @@ public:
     bool redoOnce();
 
 private:
+    // Keeps the way back to lists that have just been replaced.
+    void recordSelection(const SelectionList &before, const SelectionList &orderedBefore);
+    // Shows and raises what belongs to an undo or redo; false if it failed.
+    bool reportReplay(UndoQueue::Outcome outcome, const std::string &event, const std::string &verb,
+                      const std::string &name);
     void restoreSelection(const SelectionList &list, const SelectionList &ordered);
 
     Mode mode_;
