@@ -117,7 +117,7 @@ protected:
 
 TEST_F(realScenes, showTheWeightsThatTheirFilesHold)
 {
-    if (!qEnvironmentVariableIsSet("KORVEX_SCENES"))
+    if (qEnvironmentVariableIsEmpty("KORVEX_SCENES"))
         GTEST_SKIP() << "KORVEX_SCENES names no folder of scenes";
     const QDir folder(qEnvironmentVariable("KORVEX_SCENES"));
     int skinCount = 0;

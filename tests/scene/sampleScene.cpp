@@ -49,6 +49,7 @@ void addSkin(Scene &scene)
     scene.connect(plugNamed(scene, "hip.worldMatrix[0]"), plugNamed(scene, "skin.matrix[0]"));
     scene.connect(plugNamed(scene, "knee.worldMatrix[0]"), plugNamed(scene, "skin.matrix[2]"));
     scene.connect(plugNamed(scene, "hip.message"), plugNamed(scene, "skin.paintTrans"));
+    scene.connect(plugNamed(scene, "hip.message"), plugNamed(scene, "skin.bindPose"));
     scene.setWeightRows(skin, {0, 3, 4}, {{{0, 1.0}}, {{0, 0.25}, {2, 0.75}}, {}});
 }
 

@@ -89,6 +89,8 @@ const SceneChange kChanges[] = {
      [](Scene &s) {
          s.connect(plugNamed(s, "foot.scale"), plugNamed(s, "knee.inverseScale"), true, true);
      }},
+    {"disconnect the first of two",
+     [](Scene &s) { s.disconnect(plugNamed(s, "hip.msg"), plugNamed(s, "skin.paintTrans")); }},
     {"disconnect",
      [](Scene &s) { s.disconnect(plugNamed(s, "knee.wm[0]"), plugNamed(s, "skin.matrix[2]")); }},
 };
