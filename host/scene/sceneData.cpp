@@ -12,67 +12,109 @@ namespace host
 
 // What Scene needs of a node's insides to put data back. A friend of both.
 struct SceneEdit {
-    // Everything stored below one top-level attribute. Cheap for weights and packed numbers, which
-    // copies share until one of them is written.
+    // What is stored below one top-level attribute or, where a change stays within one element of a
+    // top-level array, that element alone: undoing thousands of small edits must not keep thousands
+    // of large arrays. Weights cost little whole, their copies share what was not written.
     struct Snapshot {
         std::optional<Datum> datum;
+        std::vector<double> numbers; // of one element of a packed array; none if it did not exist
         std::unique_ptr<skin::WeightStore> weights;
     };
     using SnapshotPtr = std::shared_ptr<Snapshot>;
 
-    static SnapshotPtr take(const Node &node, const Attribute *top)
+    // The element that a change at `plug` stays within; kNoIndex for the whole attribute.
+    static int elementOf(const Plug &plug, const Attribute &top)
+    {
+        const bool isWeights = plug.node->weights_ && top.longName == "weightList";
+        return top.isArray && !isWeights ? plug.indices[0] : kNoIndex;
+    }
+
+    static SnapshotPtr take(const Node &node, const Attribute *top, int element)
     {
         auto snapshot = std::make_shared<Snapshot>();
         const auto found = node.data_.find(top);
-        if (found != node.data_.end())
-            snapshot->datum = found->second;
+        const Datum *datum = found == node.data_.end() ? nullptr : &found->second;
+        if (datum && element == kNoIndex) {
+            snapshot->datum = *datum;
+        } else if (datum && top->isPackedArray()) {
+            const double *numbers = datum->packed ? datum->packed->find(element) : nullptr;
+            if (numbers)
+                snapshot->numbers.assign(numbers, numbers + top->tupleSize());
+        } else if (datum) {
+            const auto kept = datum->elements.find(element);
+            if (kept != datum->elements.end())
+                snapshot->datum = kept->second;
+        }
         if (node.weights_ && top->longName == "weightList")
             snapshot->weights = std::make_unique<skin::WeightStore>(*node.weights_);
         return snapshot;
     }
 
-    static void restore(Node &node, const Attribute *top, const Snapshot &snapshot)
+    static void restore(Node &node, const Attribute *top, int element, const Snapshot &snapshot)
     {
         ++node.dataRevision_;
-        if (snapshot.datum)
+        if (element != kNoIndex)
+            restoreElement(node.data_[top], *top, element, snapshot);
+        else if (snapshot.datum)
             node.data_[top] = *snapshot.datum;
-        else
+        if ((element == kNoIndex && !snapshot.datum) || node.data_[top].isEmpty())
             node.data_.erase(top);
         if (snapshot.weights)
             *node.weights_ = *snapshot.weights;
     }
 
-    // Runs `change` on the data below `attribute` and records how to go back and forth.
-    template <typename Function>
-    static void run(Scene &scene, const NodePtr &node, const AttributePtr &attribute,
-                    Function change)
+    static void restoreElement(Datum &array, const Attribute &top, int element,
+                               const Snapshot &snapshot)
     {
+        if (!top.isPackedArray()) {
+            if (snapshot.datum)
+                array.elements[element] = *snapshot.datum;
+            else
+                array.elements.erase(element);
+        } else if (snapshot.numbers.empty()) {
+            block(array, top).erase(element);
+        } else {
+            std::copy(snapshot.numbers.begin(), snapshot.numbers.end(),
+                      block(array, top).findOrAdd(element));
+        }
+    }
+
+    // Runs `change` on the data at `plug` and records how to go back and forth.
+    template <typename Function>
+    static void run(Scene &scene, const Plug &plug, Function change)
+    {
+        const NodePtr node = plug.node;
         ++node->dataRevision_;
         if (!scene.isRecording()) {
             change();
             scene.isModified_ = true;
             return;
         }
-        const Attribute *top = AttributeChain(*attribute)[0];
-        const SnapshotPtr before = take(*node, top);
+        const Attribute *top = AttributeChain(*plug.attribute)[0];
+        const int element = elementOf(plug, *top);
+        const SnapshotPtr before = take(*node, top, element);
         change();
-        const SnapshotPtr after = take(*node, top);
+        const SnapshotPtr after = take(*node, top, element);
         scene.isModified_ = true;
         // The attribute is held too: the node may lose it while the change sits in the queue.
+        const AttributePtr held = plug.attribute;
         scene.recorder_->recordChange(
-            {[node, attribute, top, before] { restore(*node, top, *before); },
-             [node, attribute, top, after] { restore(*node, top, *after); }});
+            {[node, held, top, element, before] { restore(*node, top, element, *before); },
+             [node, held, top, element, after] { restore(*node, top, element, *after); }});
     }
 
     // The block behind a packed array, ready to be written.
-    static PackedNumbers &block(Node &node, const Plug &wholeArray)
+    static PackedNumbers &block(Datum &datum, const Attribute &array)
     {
-        Datum &datum = *node.mutableDatum(wholeArray, true);
         if (!datum.packed)
-            datum.packed = std::make_shared<PackedNumbers>(wholeArray.attribute->tupleSize());
+            datum.packed = std::make_shared<PackedNumbers>(array.tupleSize());
         else if (datum.packed.use_count() > 1)
             datum.packed = std::make_shared<PackedNumbers>(*datum.packed);
         return *datum.packed;
+    }
+    static PackedNumbers &block(Node &node, const Plug &wholeArray)
+    {
+        return block(*node.mutableDatum(wholeArray, true), *wholeArray.attribute);
     }
 
     static void addOwn(Node &node, const AttributePtr &attribute, std::size_t place)
@@ -199,7 +241,7 @@ void Scene::removeAttribute(const NodePtr &node, const AttributePtr &attribute)
     }
     for (const Plug &plug : plugsWithStateBelow(*node, *attribute))
         setState(plug, PlugState());
-    SceneEdit::run(*this, node, attribute, [&] { node->data_.erase(attribute.get()); });
+    SceneEdit::run(*this, Plug(node, attribute), [&] { node->data_.erase(attribute.get()); });
     perform([node, attribute] { SceneEdit::removeOwn(*node, attribute); },
             [node, attribute, place] { SceneEdit::addOwn(*node, attribute, place); });
 }
@@ -208,7 +250,7 @@ void Scene::setValue(const Plug &plug, Value value)
 {
     if (double *number = std::get_if<double>(&value))
         *number = roundedToKind(*number, plug.attribute->kind);
-    SceneEdit::run(*this, plug.node, plug.attribute, [&] {
+    SceneEdit::run(*this, plug, [&] {
         Node &node = *plug.node;
         if (isWeight(plug)) {
             node.weights_->setWeight(std::size_t(plug.indices[0]), std::uint32_t(plug.indices[1]),
@@ -236,7 +278,7 @@ void Scene::setNumbers(const Plug &wholeArray, int first, const std::vector<doub
         for (double &number : rounded)
             number = roundedToKind(number, kind);
     }
-    SceneEdit::run(*this, wholeArray.node, wholeArray.attribute, [&] {
+    SceneEdit::run(*this, wholeArray, [&] {
         SceneEdit::block(*wholeArray.node, wholeArray)
             .setRun(first, rounded.data(), rounded.size() / attribute.tupleSize());
     });
@@ -244,7 +286,7 @@ void Scene::setNumbers(const Plug &wholeArray, int first, const std::vector<doub
 
 void Scene::setOpaqueRange(const Plug &wholeArray, int first, int last, OpaqueValue value)
 {
-    SceneEdit::run(*this, wholeArray.node, wholeArray.attribute, [&] {
+    SceneEdit::run(*this, wholeArray.element(first), [&] {
         Datum &element = *wholeArray.node->mutableDatum(wholeArray.element(first), true);
         element.value = std::move(value);
         element.rangeLast = last;
@@ -259,15 +301,15 @@ void Scene::moveData(const NodePtr &from, const NodePtr &to, std::string_view at
                     "'.");
     const auto data = from->data_.find(top.get());
     Datum moved = data == from->data_.end() ? Datum() : data->second;
-    SceneEdit::run(*this, to, top, [&] { to->data_[top.get()] = std::move(moved); });
-    SceneEdit::run(*this, from, top, [&] { from->data_.erase(top.get()); });
+    SceneEdit::run(*this, Plug(to, top), [&] { to->data_[top.get()] = std::move(moved); });
+    SceneEdit::run(*this, Plug(from, top), [&] { from->data_.erase(top.get()); });
 }
 
 void Scene::addElement(const Plug &element)
 {
     if (element.node->hasElement(element))
         return;
-    SceneEdit::run(*this, element.node, element.attribute, [&] {
+    SceneEdit::run(*this, element, [&] {
         Node &node = *element.node;
         if (isWeightList(element.array())) {
             node.weights_->addRow(std::size_t(element.ownIndex()));
@@ -286,7 +328,7 @@ void Scene::addElement(const Plug &element)
 
 void Scene::removeElement(const Plug &element)
 {
-    SceneEdit::run(*this, element.node, element.attribute, [&] {
+    SceneEdit::run(*this, element, [&] {
         Node &node = *element.node;
         const Plug array = element.array();
         if (isWeightList(array))
@@ -316,7 +358,7 @@ void Scene::setState(const Plug &plug, const PlugState &state)
 void Scene::setWeightRows(const NodePtr &skinCluster, const std::vector<std::size_t> &vertices,
                           const std::vector<std::vector<skin::WeightStore::Entry>> &rows)
 {
-    SceneEdit::run(*this, skinCluster, skinCluster->findAttribute("weightList"), [&] {
+    SceneEdit::run(*this, skinCluster->plug("weightList"), [&] {
         for (std::size_t i = 0; i < vertices.size(); ++i)
             skinCluster->weights_->setRow(vertices[i], rows[i]);
     });
