@@ -3,7 +3,6 @@
 #include "commands/preparers.h"
 
 #include "model/messages.h"
-#include "model/typedValue.h"
 
 #include <maya/MGlobal.h>
 
@@ -25,8 +24,7 @@ MDoubleArray draggedWeights(const editSource &source, int shape)
     const int end = source.weights.endOfVertexRows(shape);
     for (int r = source.weights.firstVertexRow(shape); r < end; ++r) {
         const double weight = cellOf(source.weights.rows.at(r), drag.operationColumn);
-        values.append(boundedWeight(drag.columnDragIsAbsolute ? drag.columnDragValue
-                                                              : weight + drag.columnDragDelta));
+        values.append(movedWeight(drag.columnDrag, weight));
     }
     return values;
 }

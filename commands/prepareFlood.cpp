@@ -2,9 +2,26 @@
 #include "commands/editedShapes.h"
 #include "commands/preparers.h"
 
+#include "model/mayaText.h"
 #include "model/messages.h"
 
 #include <maya/MGlobal.h>
+
+namespace
+{
+
+QVector<int> unlockedVertices(const editSource &source, int shape)
+{
+    QVector<int> vertices;
+    const int end = source.weights.endOfVertexRows(shape);
+    for (int row = source.weights.firstVertexRow(shape); row < end; ++row) {
+        if (!source.locks.isRowLocked(row))
+            vertices.append(source.weights.rowNames.vertex(row));
+    }
+    return vertices;
+}
+
+} // namespace
 
 preparation prepareFlood(const editSource &source, preparedEdit &edit)
 {
@@ -19,7 +36,15 @@ preparation prepareFlood(const editSource &source, preparedEdit &edit)
             MGlobal::displayInfo(kNoJointIndex);
             return preparation::failed;
         }
-        weightWrite &write = shapes.appendWriteToAll(place, filled.at(i));
+        const QVector<int> vertices = unlockedVertices(source, filled.at(i));
+        const int lockedCount = source.weights.endOfVertexRows(filled.at(i)) -
+                                source.weights.firstVertexRow(filled.at(i)) - vertices.size();
+        if (lockedCount > 0)
+            MGlobal::displayInfo(messageWith(kLockedVerticesLeft, lockedCount));
+        if (vertices.isEmpty())
+            return preparation::failed;
+        weightWrite &write = lockedCount > 0 ? shapes.appendWrite(place, vertices)
+                                             : shapes.appendWriteToAll(place, filled.at(i));
         write.influence = influence;
         write.value = source.handOver.floodValue;
     }

@@ -2,11 +2,10 @@
 #include "commands/shapeWriter.h"
 
 #include "commands/vertexComponents.h"
+#include "model/mayaText.h"
 #include "model/messages.h"
 
 #include <maya/MGlobal.h>
-#include <maya/MString.h>
-#include <maya/MStringArray.h>
 
 namespace
 {
@@ -22,15 +21,6 @@ bool canTake(const editedShape &shape)
         MFnSkinCluster(shape.skinCluster.object())
             .getWeights(shape.path, oneVertex(shape.highestVertex), weights, influenceCount);
     return status && influenceCount == shape.influenceCount;
-}
-
-MString normalizationMessage(const MObject &skinCluster)
-{
-    MStringArray arguments;
-    arguments.append(MFnDependencyNode(skinCluster).name());
-    MString message;
-    message.format(kNormalizationFixed, arguments);
-    return message;
 }
 
 } // namespace
@@ -91,7 +81,8 @@ void shapeWriters::add(const editedShape &shape, bool leavesNormalizationAlone)
         std::unique_ptr<shapeWriter>(new shapeWriter(shape, leavesNormalizationAlone)));
     if (!writers_.back()->isNormalizing()) {
         areReady_ = false;
-        MGlobal::displayError(normalizationMessage(shape.skinCluster.object()));
+        MGlobal::displayError(
+            messageWith(kNormalizationFixed, MFnDependencyNode(shape.skinCluster.object()).name()));
     }
 }
 

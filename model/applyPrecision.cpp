@@ -2,6 +2,7 @@
 // Rounding the skin clusters: through korvexCmd, and back and forth past Maya's undo queue.
 #include "model/weightTableModel.h"
 
+#include "model/mayaText.h"
 #include "model/messages.h"
 #include "model/shapeReader.h"
 
@@ -10,7 +11,6 @@
 #include <maya/MFnSkinCluster.h>
 #include <maya/MGlobal.h>
 #include <maya/MIntArray.h>
-#include <maya/MStringArray.h>
 
 namespace
 {
@@ -33,13 +33,7 @@ void warnOfWeightsOutOfRange(const weightRows &rows)
         count += isVertexRow(rows.at(r)) && hasWeightOutOfRange(rows.at(r)) ? 1 : 0;
     if (count == 0)
         return;
-    MString number;
-    number += count;
-    MStringArray numbers;
-    numbers.append(number);
-    MString message;
-    message.format(kWeightsOutOfRange, numbers);
-    MGlobal::displayWarning(message);
+    MGlobal::displayWarning(messageWith(kWeightsOutOfRange, count));
 }
 
 // The influence index of each joint column; -1 for what is no influence of the shape.

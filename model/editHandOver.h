@@ -7,6 +7,7 @@
 #pragma once
 
 #include "model/cellIndex.h"
+#include "model/dragCells.h"
 #include "model/weightRow.h"
 
 #include <QVector>
@@ -29,8 +30,6 @@ struct editHandOver {
     QVector<int> floodShapes;
     double floodValue = 0.0;
 
-    // The slider over a column: the weight itself where absolute, else what is added to each.
-    bool columnDragIsAbsolute = false;
-    double columnDragValue = 0.0;
-    double columnDragDelta = 0.0;
+    // The slider over a column.
+    sliderMove columnDrag;
 };

@@ -122,9 +122,12 @@ void weightTableModel::rowHeaderSelected(int)
     renewCurrentCellValue();
 }
 
+// The weight of the cell that a drag would lead with. Without one, what the top right cell holds.
 void weightTableModel::renewCurrentCellValue()
 {
-    const cellIndex leading = topRightCell(viewSelection());
+    cellIndex leading = leadingCell();
+    if (leading.row < 0)
+        leading = topRightCell(viewSelection());
     if (leading.row >= 0 && leading.row < rowCount() &&
         hasCell(weights_.rows.at(leading.row), leading.column))
         currentCellValue_ = cellOf(weights_.rows.at(leading.row), leading.column);

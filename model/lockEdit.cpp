@@ -2,12 +2,12 @@
 #include "model/lockEdit.h"
 
 #include "model/influenceLock.h"
+#include "model/mayaText.h"
 #include "model/messages.h"
 #include "model/selectionParts.h"
 #include "model/weightTableModel.h"
 
 #include <maya/MGlobal.h>
-#include <maya/MStringArray.h>
 
 lockEdit::lockEdit(weightTableModel &model) : model_(model)
 {
@@ -28,11 +28,7 @@ lockEdit::~lockEdit()
     for (int i = 0; i < skinClusters_.size(); ++i) {
         if (!skinClusters_.at(i).hasFailed())
             continue;
-        MStringArray names;
-        names.append(skinClusters_.at(i).name());
-        MString message;
-        message.format(kLocksNotStored, names);
-        MGlobal::displayError(message);
+        MGlobal::displayError(messageWith(kLocksNotStored, skinClusters_.at(i).name()));
     }
 }
 

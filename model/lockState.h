@@ -31,6 +31,8 @@ public:
 
     // Whether nothing is locked.
     bool isEmpty() const;
+    bool hasRows() const { return !rows_.isEmpty(); }
+    bool hasCells() const { return !cells_.isEmpty(); }
     bool isJointLocked(int column) const { return joints_.contains(column); }
     bool isRowLocked(int row) const { return rows_.contains(row); }
     // Whether that very cell is locked by itself.

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <maya/MString.h>
+#include <maya/MStringArray.h>
 
 inline QString textOf(const MString &text)
 {
@@ -17,4 +18,21 @@ inline MString mayaTextOf(const QString &text)
     MString result;
     result.setUTF8(text.toUtf8().constData());
     return result;
+}
+
+// A message with `argument` in its place "^1s".
+inline MString messageWith(const char *message, const MString &argument)
+{
+    MStringArray arguments;
+    arguments.append(argument);
+    MString result;
+    result.format(message, arguments);
+    return result;
+}
+
+inline MString messageWith(const char *message, int number)
+{
+    MString text;
+    text += number;
+    return messageWith(message, text);
 }

@@ -13,6 +13,20 @@ const char kNoCellToDeductFrom[] = "Could not find proper cell to deduct weight.
 // Typed values.
 const char kValueOutOfRange[] = "The value entered has to be between 0.0 and 1.0.";
 
+// The value slider, limiting influences, flooding.
+const char kNothingToDrag[] = "There is no cell with valid data";
+const char kJointIsLocked[] = "Can not set weight on this joint, since it is locked.";
+const char kRowIsLocked[] =
+    "This row is locked or has locked cell, and its number of influence can "
+    "not be changed.";
+const char kNoJointToFlood[] = "No joint has been selected for flood operation. Please select a "
+                               "joint column first, then click on replace button.";
+const char kManyJointsToFlood[] =
+    "You can only do floor operation on one joint. Please select only "
+    "one joint column";
+const char kJointHasLocks[] = "This joint column has some locked cells. Please unlock those cells.";
+const char kLockedVerticesLeft[] = "Locked vertices that kept their weights: ^1s."; // ^1s: how many
+
 // Edits on their way into a skin cluster.
 const char kDataNotSetUp[] = "Data was not set up properly before executing this command. Please "
                              "reload data into korvex.";

@@ -175,8 +175,18 @@ void weightTableModel::refreshEditedRows(const QVector<cellIndex> &edited)
     QVector<int> rows;
     for (QHash<int, int>::const_iterator i = columns.constBegin(); i != columns.constEnd(); ++i)
         rows.append(i.key());
-    sortAndUnite(rows);
+    refreshOneByOne(rows, [&columns](int row) { return columns.value(row); });
+}
 
+void weightTableModel::refreshRowsEditedAt(const QVector<int> &rows, int column)
+{
+    refreshOneByOne(rows, [column](int) { return column; });
+}
+
+void weightTableModel::refreshOneByOne(QVector<int> rows,
+                                       const std::function<int(int row)> &editedColumn)
+{
+    sortAndUnite(rows);
     bool isEachComplete = true;
     const QVector<shapeRows> groups = groupedByShape(weights_, rows);
     for (int g = 0; g < groups.size(); ++g) {
@@ -184,9 +194,9 @@ void weightTableModel::refreshEditedRows(const QVector<cellIndex> &edited)
         shapeReader reader(weights_, group.shape, group.vertices);
         for (int k = 0; k < reader.vertexCount(); ++k) {
             const int row = group.rows.at(k);
-            const int editedColumn = columns.value(row);
-            const auto mayTake = [this, row, editedColumn](int column) {
-                return column != editedColumn && !locks_.isJointLocked(column) &&
+            const int edited = editedColumn(row);
+            const auto mayTake = [this, row, edited](int column) {
+                return column != edited && !locks_.isJointLocked(column) &&
                        !locks_.isCellLocked(row, column);
             };
             double sum = 0.0;
@@ -202,6 +212,16 @@ void weightTableModel::refreshEditedRows(const QVector<cellIndex> &edited)
     announceRows(rows);
     if (!isEachComplete)
         MGlobal::displayError(kNoCellToDeductFrom); // once, however many rows are like that
+}
+
+QVector<int> weightTableModel::allVertexRows() const
+{
+    QVector<int> rows;
+    for (int row = 0; row < weights_.rows.size(); ++row) {
+        if (isVertexRow(weights_.rows.at(row)))
+            rows.append(row);
+    }
+    return rows;
 }
 
 // `sum` is that of the weights before they were rounded.

@@ -14,29 +14,15 @@ QSet<int> setOf(const QVector<int> &numbers)
     return set;
 }
 
-// Appends the members of `whole` from first to last that are not there yet.
-void appendWhole(int first, int last, const QSet<int> &whole, QSet<int> &seen, QVector<int> &lines)
-{
-    for (int line = first; line <= last; ++line) {
-        if (whole.contains(line) && !seen.contains(line)) {
-            seen.insert(line);
-            lines.append(line);
-        }
-    }
-}
-
 } // namespace
 
 selectionParts::selectionParts(const QItemSelection &selection, int rowCount, int columnCount)
-    : columnSet_(setOf(wholeColumns(selection, rowCount))),
-      rowSet_(setOf(wholeRows(selection, columnCount)))
+    : columns_(inOrderOfSelecting(wholeColumns(selection, rowCount), selection, Qt::Horizontal)),
+      rows_(inOrderOfSelecting(wholeRows(selection, columnCount), selection, Qt::Vertical)),
+      columnSet_(setOf(columns_)), rowSet_(setOf(rows_))
 {
-    QSet<int> seenColumns;
-    QSet<int> seenRows;
     for (int i = 0; i < selection.size(); ++i) {
         const QItemSelectionRange &range = selection.at(i);
-        appendWhole(range.left(), range.right(), columnSet_, seenColumns, columns_);
-        appendWhole(range.top(), range.bottom(), rowSet_, seenRows, rows_);
         for (int row = range.top(); row <= range.bottom(); ++row) {
             if (rowSet_.contains(row))
                 continue;

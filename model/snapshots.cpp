@@ -72,12 +72,3 @@ void weightTableModel::forgetSnapshots()
     unroundedRows_.clear();
     handOver_.roundedRows.clear();
 }
-
-// Deliberate: the header is told also of a table without rows, whose last row is -1.
-void weightTableModel::undoMaxInfluence()
-{
-    settings_.maxInfluences = previousMaxInfluences_;
-    if (weights_.rows.isEmpty())
-        MGlobal::displayError(kNothingToUndo);
-    emit headerDataChanged(Qt::Vertical, 0, rowCount() - 1);
-}

@@ -2,6 +2,7 @@
 #include "model/tableSelection.h"
 
 #include <QAbstractItemModel>
+#include <QSet>
 
 #include <algorithm>
 
@@ -57,6 +58,23 @@ QVector<int> wholeRows(const QItemSelection &selection, int columnCount)
 QVector<int> wholeColumns(const QItemSelection &selection, int rowCount)
 {
     return linesWithCells(selection, Qt::Horizontal, rowCount);
+}
+
+QVector<int> inOrderOfSelecting(const QVector<int> &lines, const QItemSelection &selection,
+                                Qt::Orientation orientation)
+{
+    QSet<int> left;
+    for (int i = 0; i < lines.size(); ++i)
+        left.insert(lines.at(i));
+    QVector<int> ordered;
+    for (int i = 0; i < selection.size(); ++i) {
+        const extent range = extentOf(selection.at(i), orientation);
+        for (int line = range.first; line <= range.last; ++line) {
+            if (left.remove(line))
+                ordered.append(line);
+        }
+    }
+    return ordered;
 }
 
 cellIndex topRightCell(const QItemSelection &selection)

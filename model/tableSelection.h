@@ -16,6 +16,10 @@ QVector<int> rowsWithSelectedCell(const QItemSelection &selection);
 QVector<int> wholeRows(const QItemSelection &selection, int columnCount);
 QVector<int> wholeColumns(const QItemSelection &selection, int rowCount);
 
+// The same lines, wholly selected, in the order of selecting.
+QVector<int> inOrderOfSelecting(const QVector<int> &lines, const QItemSelection &selection,
+                                Qt::Orientation orientation);
+
 // The rightmost selected cell of the topmost selected row; row -1 if nothing is selected.
 cellIndex topRightCell(const QItemSelection &selection);
 

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "model/weightTableModel.h"
 
-#include <QTableView>
-
-#include "model/tableSelection.h"
 #include "plugin/processState.h"
 #include "plugin/sceneCallbacks.h"
 
@@ -66,16 +63,4 @@ bool weightTableModel::takeIgnoredSelectionChange()
     const bool ignored = ignoreNextSelectionChange_;
     ignoreNextSelectionChange_ = false;
     return ignored;
-}
-
-void weightTableModel::setMaxValue(int maximum)
-{
-    previousMaxInfluences_ = settings_.maxInfluences;
-    settings_.maxInfluences = maximum;
-
-    const QVector<int> rows = wholeRows(viewSelection(), columnCount());
-    for (int i = 0; i < rows.size(); ++i)
-        emit headerDataChanged(Qt::Vertical, rows.at(i), rows.at(i));
-    if (rows.isEmpty() && rowCount() > 0)
-        emit headerDataChanged(Qt::Vertical, 0, rowCount() - 1);
 }

@@ -22,6 +22,8 @@
 
 #include <maya/MMessage.h>
 
+#include <functional>
+
 class QTableView;
 class wholeListRounding;
 struct typedValue;
@@ -90,6 +92,19 @@ public slots:
 
     // Rows with more influences than `maximum` are marked from now on. No weight changes.
     void setMaxValue(int maximum);
+    // Takes the smallest weights of the vertices that have more, until none has: of the whole rows
+    // that are selected, without any of all. Rows that a lock protects are refused.
+    void applyMaxInfluence();
+
+    // The value slider at `value`, over the selected cells or, where whole columns are selected,
+    // over the last of these. Absolute: the weight itself, else how far it was moved since the drag
+    // began. Locked and hidden cells stay; of each row the rightmost selected cell moves.
+    void dragSlider(double value, bool absolute);
+    void dragSliderColumn(double value, bool absolute);
+
+    // Gives the joint of the one selected column that weight on each vertex of a shape that is not
+    // locked.
+    void replaceValue(double value);
 
     // Hides the columns of joints without weight, or shows all again.
     void toggleFilter(bool on);
@@ -150,6 +165,11 @@ public slots:
     void undoPrecision();
     void undoMaxInfluence();
 
+signals:
+    // After each step of a drag: the leading cell's weight now, before the step, and where the drag
+    // began.
+    void topRightCellDataChanged(double newValue, double lastValue, double origValue);
+
 private:
     friend class lockEdit;
 
@@ -162,9 +182,17 @@ private:
 
     void fillPending(const typedValue &typed, const QVector<cellIndex> &selected);
     QVector<cellIndex> selectedCells(const cellIndex &edited) const;
-    // Reads the cells' rows again, each rounded as a row whose joint of that column was edited.
+    // The cell that leads a drag over what is selected; row -1 if there is nothing to drag.
+    cellIndex leadingCell() const;
+    QSet<int> hiddenColumns() const;
+    QVector<int> rowsChosenForLimit() const;
+    QVector<int> allVertexRows() const;
+
+    // Read rows again, each rounded as one whose joint of that column was edited (-1: of none).
     // Rows of shapes and rows that cannot be read stay as they are.
     void refreshEditedRows(const QVector<cellIndex> &edited);
+    void refreshRowsEditedAt(const QVector<int> &rows, int column);
+    void refreshOneByOne(QVector<int> rows, const std::function<int(int row)> &editedColumn);
     bool refreshListRows(const QVector<int> &rows);
     void refreshAllRows();
     void storeRow(int row, const weightRow &weights, double sum);

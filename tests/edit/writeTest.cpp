@@ -99,7 +99,7 @@ TEST_F(writeEdit, dragsAColumnPastLockedJoints)
     model_.checkLockAttr();
     mel("setAttr c.liw 1");
     handOver_.operationColumn = 0;
-    handOver_.columnDragDelta = 0.2;
+    handOver_.columnDrag.delta = 0.2;
     ASSERT_EQ(prepare(prepareColumn), preparation::ready);
     EXPECT_TRUE(writeColumn(edit_));
     EXPECT_EQ(weights("body"), "0.7 0.1 0.2; 0.3 0.7 0; 0.2 0.3 0.5; 0.9 0 0.1");
@@ -107,8 +107,8 @@ TEST_F(writeEdit, dragsAColumnPastLockedJoints)
     EXPECT_TRUE(replayDisplaced(edit_));
     EXPECT_EQ(weights("body"), "0.5 0.3 0.2; 0.1 0.9 0; 0 0.5 0.5; 0.9 0 0.1");
 
-    handOver_.columnDragIsAbsolute = true;
-    handOver_.columnDragValue = 0.4;
+    handOver_.columnDrag.isAbsolute = true;
+    handOver_.columnDrag.value = 0.4;
     ASSERT_EQ(prepare(prepareColumn), preparation::ready);
     EXPECT_TRUE(writeColumn(edit_));
     EXPECT_EQ(weights("body").substr(0, 30), "0.4 0.4 0.2; 0.4 0.6 0; 0.4 0.");
