@@ -2,7 +2,6 @@
 #include "commands/editedShapes.h"
 #include "commands/preparers.h"
 
-#include "model/mayaText.h"
 #include "model/messages.h"
 
 #include <maya/MGlobal.h>
@@ -10,6 +9,7 @@
 namespace
 {
 
+// Locked vertices keep their weights.
 QVector<int> unlockedVertices(const editSource &source, int shape)
 {
     QVector<int> vertices;
@@ -37,14 +37,9 @@ preparation prepareFlood(const editSource &source, preparedEdit &edit)
             return preparation::failed;
         }
         const QVector<int> vertices = unlockedVertices(source, filled.at(i));
-        const int lockedCount = source.weights.endOfVertexRows(filled.at(i)) -
-                                source.weights.firstVertexRow(filled.at(i)) - vertices.size();
-        if (lockedCount > 0)
-            MGlobal::displayInfo(messageWith(kLockedVerticesLeft, lockedCount));
-        if (vertices.isEmpty())
-            return preparation::failed;
-        weightWrite &write = lockedCount > 0 ? shapes.appendWrite(place, vertices)
-                                             : shapes.appendWriteToAll(place, filled.at(i));
+        const bool isWhole = vertices.size() == source.weights.vertexCount(filled.at(i));
+        weightWrite &write = isWhole ? shapes.appendWriteToAll(place, filled.at(i))
+                                     : shapes.appendWrite(place, vertices);
         write.influence = influence;
         write.value = source.handOver.floodValue;
     }

@@ -2,6 +2,7 @@
 #include "commands/editedShapes.h"
 #include "commands/preparers.h"
 
+#include "model/limitRows.h"
 #include "model/messages.h"
 
 #include <maya/MGlobal.h>
@@ -40,8 +41,8 @@ preparation prepareMaxInfluences(const editSource &source, preparedEdit &edit)
         const int vertex = weights.rowNames.vertex(r);
         if (vertex < 0)
             return fail(kUnreadableVertexIndex);
-        const int count = summarize(row).nonZeroCount;
-        if (count <= 1 || count <= source.maxInfluences)
+        const int drops = influencesBeyond(source.maxInfluences, row);
+        if (drops == 0)
             continue;
         const int place = shapes.enter(shapeIndexOf(row));
         if (place < 0)
@@ -49,7 +50,7 @@ preparation prepareMaxInfluences(const editSource &source, preparedEdit &edit)
         findInfluences(shapes, place, weights.jointCount(), edit.shapes[place]);
         weightWrite &write = shapes.appendWrite(place, QVector<int>(1, vertex));
         write.row = row;
-        write.drops = count - source.maxInfluences;
+        write.drops = drops;
     }
     return preparation::ready;
 }

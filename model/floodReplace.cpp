@@ -3,6 +3,7 @@
 #include "model/weightTableModel.h"
 
 #include "model/dragCells.h"
+#include "model/mayaText.h"
 #include "model/messages.h"
 #include "model/tableSelection.h"
 #include "model/typedValue.h"
@@ -36,6 +37,14 @@ int columnToFlood(const QVector<int> &selected, const lockState &locks)
     return refusal ? -1 : selected.first();
 }
 
+int lockedVertexCount(const weightList &weights, const lockState &locks, int shape)
+{
+    int count = 0;
+    for (int row = weights.firstVertexRow(shape); row < weights.endOfVertexRows(shape); ++row)
+        count += locks.isRowLocked(row) ? 1 : 0;
+    return count;
+}
+
 } // namespace
 
 // Deliberate: where several shapes have the joint, the upper one alone is flooded. Pinned by the
@@ -53,6 +62,11 @@ void weightTableModel::replaceValue(double value)
     if (firstRow < 0)
         return;
     const int shape = shapeIndexOf(weights_.rows.at(firstRow));
+    const int lockedCount = lockedVertexCount(weights_, locks_, shape);
+    if (lockedCount > 0)
+        MGlobal::displayInfo(messageWith(kLockedVerticesLeft, lockedCount));
+    if (lockedCount == weights_.vertexCount(shape))
+        return;
     handOver_.floodShapes.append(shape);
     handOver_.operationColumn = column;
     handOver_.floodValue = boundedWeight(value);

@@ -25,6 +25,12 @@ QHash<int, QList<int>> columnsByRow(const QList<cellIndex> &cells)
 
 } // namespace
 
+int influencesBeyond(int maximum, const weightRow &row)
+{
+    const int count = summarize(row).nonZeroCount;
+    return count <= 1 ? 0 : qMax(0, count - maximum);
+}
+
 rowsToLimit screenForLimit(const QVector<int> &candidates, const weightRows &rows,
                            const lockState &locks)
 {

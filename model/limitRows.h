@@ -10,6 +10,9 @@ struct rowsToLimit {
     int refusedCount;
 };
 
+// How many influences a row has beyond the maximum. The last one never goes.
+int influencesBeyond(int maximum, const weightRow &row);
+
 // Those of `candidates`, in their order, that no lock protects: the row is not locked, and none of
 // its weights is, by itself or with its joint. A lock on a cell without weight protects nothing.
 //

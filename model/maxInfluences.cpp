@@ -8,6 +8,20 @@
 
 #include <maya/MGlobal.h>
 
+namespace
+{
+
+bool hasRowBeyond(int maximum, const QVector<int> &candidates, const weightRows &rows)
+{
+    for (int i = 0; i < candidates.size(); ++i) {
+        if (influencesBeyond(maximum, rows.at(candidates.at(i))) > 0)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
 void weightTableModel::setMaxValue(int maximum)
 {
     previousMaxInfluences_ = settings_.maxInfluences;
@@ -30,6 +44,9 @@ void weightTableModel::applyMaxInfluence()
     const rowsToLimit screened = screenForLimit(rowsChosenForLimit(), weights_.rows, locks_);
     for (int i = 0; i < screened.refusedCount; ++i)
         MGlobal::displayInfo(kRowIsLocked);
+    // A command that does nothing cannot be undone, and Maya drops its whole undo queue over that.
+    if (!hasRowBeyond(settings_.maxInfluences, screened.rows, weights_.rows))
+        return;
     handOver_.maxInfluenceRows = screened.rows;
     MGlobal::executeCommand("korvexCmd -numMax", true, true);
 

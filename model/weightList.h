@@ -52,6 +52,7 @@ struct weightList {
     // The rows [firstVertexRow, endOfVertexRows) are the shape's vertices.
     int firstVertexRow(int shape) const { return shapeRows.at(shape) + 1; }
     int endOfVertexRows(int shape) const;
+    int vertexCount(int shape) const { return endOfVertexRows(shape) - firstVertexRow(shape); }
 
     // Adds a joint column for the influence unless it has one. Names and colours follow with
     // readJointHeaders(), once all are known.

@@ -79,3 +79,15 @@ TEST_F(command, leavesTheTableAloneWhileItFollowsTheSelection)
     mel("undo; select -r body.vtx[0]");
     EXPECT_EQ(rowNames(), "bodyShape vtx[0]") << "it still follows";
 }
+
+TEST_F(command, refusesOperationsOnAnEmptyTable)
+{
+    const std::string items = undoItems();
+    call("dragSlider", 0.5, true);
+    EXPECT_EQ(takeErrors(), kNothingLoaded);
+    call("applyMaxInfluence");
+    EXPECT_EQ(takeErrors(), kNothingLoaded);
+    call("replaceValue", 0.5);
+    EXPECT_EQ(takeErrors(), kNothingLoaded);
+    EXPECT_EQ(undoItems(), items);
+}

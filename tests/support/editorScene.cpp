@@ -128,6 +128,23 @@ void EditorScene::call(const char *slot, int argument)
     EXPECT_TRUE(QMetaObject::invokeMethod(model_, slot, Q_ARG(int, argument))) << slot;
 }
 
+void EditorScene::call(const char *slot, double argument)
+{
+    EXPECT_TRUE(QMetaObject::invokeMethod(model_, slot, Q_ARG(double, argument))) << slot;
+}
+
+void EditorScene::call(const char *slot, double first, bool second)
+{
+    EXPECT_TRUE(QMetaObject::invokeMethod(model_, slot, Q_ARG(double, first), Q_ARG(bool, second)))
+        << slot;
+}
+
+void EditorScene::call(const char *slot, double first, int second)
+{
+    EXPECT_TRUE(QMetaObject::invokeMethod(model_, slot, Q_ARG(double, first), Q_ARG(int, second)))
+        << slot;
+}
+
 std::string EditorScene::picture() const
 {
     textTable table(1, {""});

@@ -37,6 +37,9 @@ protected:
     void call(const char *slot);
     void call(const char *slot, bool argument);
     void call(const char *slot, int argument);
+    void call(const char *slot, double argument);
+    void call(const char *slot, double first, bool second);
+    void call(const char *slot, double first, int second);
 
     // Headers and cells:
     //              | hip   | knee
