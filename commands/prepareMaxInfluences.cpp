@@ -50,6 +50,7 @@ preparation prepareMaxInfluences(const editSource &source, preparedEdit &edit)
         findInfluences(shapes, place, weights.jointCount(), edit.shapes[place]);
         weightWrite &write = shapes.appendWrite(place, QVector<int>(1, vertex));
         write.row = row;
+        write.rowIndex = r;
         write.drops = drops;
     }
     return preparation::ready;

@@ -37,8 +37,9 @@ struct weightWrite {
     // Joints that Maya must hold meanwhile.
     MDagPathArray heldJoints;
 
-    // Limiting influences: the vertex's row of the table, and how many are to go.
+    // Limiting influences: the vertex's row of the table, where it stands, and how many are to go.
     weightRow row;
+    int rowIndex = -1;
     int drops = 0;
 };
 

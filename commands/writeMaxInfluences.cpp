@@ -33,7 +33,7 @@ void layOut(const MDoubleArray &weights, const editedShape &shape, weightRow &ro
 // `old` gets the weights from before the first drop. `isUnknown` tells of a weight whose joint is
 // no influence.
 MStatus dropSmallest(shapeWriter &writer, const editedShape &shape, const weightWrite &write,
-                     MDoubleArray &old, bool *isUnknown)
+                     cellQuestion mayChange, MDoubleArray &old, bool *isUnknown)
 {
     weightRow row = write.row;
     MStatus status;
@@ -41,6 +41,9 @@ MStatus dropSmallest(shapeWriter &writer, const editedShape &shape, const weight
         const int column = smallestWeight(row);
         if (column < 0)
             break;
+        const cellIndex cell = {write.rowIndex, column};
+        if (!mayChange(cell))
+            continue;
         const int influence = shape.influenceOfColumn.value(column, -1);
         if (influence < 0) {
             *isUnknown = true;
@@ -48,16 +51,26 @@ MStatus dropSmallest(shapeWriter &writer, const editedShape &shape, const weight
         }
         MDoubleArray displaced;
         status = writer.setInfluence(write.component, influence, 0.0, displaced);
-        if (drop == 0)
+        if (old.length() == 0)
             old = displaced;
         layOut(writer.weightsOf(write.component), shape, row);
     }
     return status;
 }
 
+bool always(const cellIndex &)
+{
+    return true;
+}
+
 } // namespace
 
 MStatus writeMaxInfluences(preparedEdit &edit)
+{
+    return writeMaxInfluencesAsking(edit, always);
+}
+
+MStatus writeMaxInfluencesAsking(preparedEdit &edit, cellQuestion mayChange)
 {
     edit.oldWeights.clear();
     shapeWriters writers(edit);
@@ -68,8 +81,8 @@ MStatus writeMaxInfluences(preparedEdit &edit)
         const weightWrite &write = edit.writes.at(i);
         MDoubleArray old;
         bool isUnknown = false;
-        status =
-            dropSmallest(writers.of(write), edit.shapes.at(write.shape), write, old, &isUnknown);
+        status = dropSmallest(writers.of(write), edit.shapes.at(write.shape), write, mayChange, old,
+                              &isUnknown);
         edit.oldWeights.append(old);
         if (isUnknown) {
             MGlobal::displayInfo(kNoInfluence);

@@ -9,6 +9,7 @@
 #pragma once
 
 #include "commands/preparedEdit.h"
+#include "model/cellIndex.h"
 
 #include <maya/MStatus.h>
 
@@ -21,6 +22,10 @@ typedef MStatus (*editWriter)(preparedEdit &edit);
 // everything that is left, with a message and kFailure; what was written stays, and stays in
 // oldWeights.
 MStatus writeMaxInfluences(preparedEdit &edit);
+// The same, asking before each weight that goes: a cell of the table that is refused is passed
+// over.
+typedef bool (*cellQuestion)(const cellIndex &cell);
+MStatus writeMaxInfluencesAsking(preparedEdit &edit, cellQuestion mayChange);
 // Of all influences, with normalizeWeights as it is.
 MStatus writeRounding(preparedEdit &edit);
 MStatus writeFlood(preparedEdit &edit);

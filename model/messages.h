@@ -38,6 +38,7 @@ const char kNoVertexNumber[] = "There is something wrong accessing the vertex nu
 const char kNoJointIndex[] = "There is something wrong getting the joint index.";
 const char kNoShapeIndex[] = "There is an error accessing shape index.";
 const char kUnreadableVertexIndex[] = "There is some error with parsing the vertex index value.";
+const char kNoModelIndex[] = "There is an error getting the mode index.";
 const char kNoInfluence[] = "Could not find the influence.";
 const char kNormalizationFixed[] =
     "The normalizeWeights attribute of ^1s cannot be set, so no weight was written."; // ^1s: node

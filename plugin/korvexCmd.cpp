@@ -2,11 +2,8 @@
 #include "plugin/korvexCmd.h"
 
 #include <QApplication>
-#include <QScopedValueRollback>
 
-#include "commands/undoReplay.h"
 #include "model/messages.h"
-#include "model/weightTableModel.h"
 #include "plugin/hostWindow.h"
 #include "plugin/korvexFlags.h"
 #include "plugin/processState.h"
@@ -64,50 +61,22 @@ MStatus korvexCmd::doIt(const MArgList &arguments)
     for (const korvexFlag &flag : kKorvexFlags) {
         if (!parser.isFlagSet(flag.longName))
             continue;
-        const preparation prepared = prepare(flag);
+        const preparation prepared = edit_.prepare(flag.kind, activeModel);
         if (prepared == preparation::ready)
             return redoIt();
-        if (prepared == preparation::outdated) {
-            MGlobal::displayInfo(kDataNotSetUp);
+        if (prepared == preparation::outdated)
             return MStatus::kFailure;
-        }
     }
     return MStatus::kSuccess;
 }
 
-preparation korvexCmd::prepare(const korvexFlag &flag)
-{
-    const editSource source = {activeModel->weights(), activeModel->locks(),
-                               activeModel->handOver(), activeModel->maxInfluences()};
-    flag_ = &flag;
-    edit_ = preparedEdit();
-    return flag.prepare(source, edit_);
-}
-
+// The window, and the table with it, may have gone while the command was on the undo queue.
 MStatus korvexCmd::redoIt()
 {
-    if (!flag_)
-        return MStatus::kSuccess;
-    // Writing may change Maya's selection, and the table must not follow that.
-    const QScopedValueRollback<bool> restoreAutoUpdate(autoUpdate);
-    autoUpdate = false;
-    const MStatus status = flag_->write(edit_);
-    refreshTable();
-    return status;
+    return edit_.write(activeModel);
 }
 
 MStatus korvexCmd::undoIt()
 {
-    const QScopedValueRollback<bool> restoreAutoUpdate(autoUpdate);
-    autoUpdate = false;
-    const MStatus status = replayDisplaced(edit_);
-    refreshTable();
-    return status;
-}
-
-// The window, and the table with it, may have gone while the command was on the undo queue.
-void korvexCmd::refreshTable()
-{
-    if (activeModel && !edit_.oldWeights.isEmpty())
-        activeModel->refreshWritten(verticesOf(edit_));
+    return edit_.putBack(activeModel);
 }

@@ -3,15 +3,12 @@
 // of its flags it carries an edit of the table through Maya's undo queue.
 #pragma once
 
-#include "commands/preparedEdit.h"
+#include "commands/weightEdit.h"
 
 #include <maya/MArgList.h>
 #include <maya/MPxCommand.h>
 #include <maya/MStatus.h>
 #include <maya/MSyntax.h>
-
-enum class preparation;
-struct korvexFlag;
 
 class korvexCmd : public MPxCommand
 {
@@ -31,10 +28,5 @@ public:
     bool isUndoable() const override { return true; }
 
 private:
-    preparation prepare(const korvexFlag &flag);
-    void refreshTable();
-
-    // What this invocation carries; null if it opened the window.
-    const korvexFlag *flag_ = nullptr;
-    preparedEdit edit_;
+    weightEdit edit_; // never prepared if this invocation opened the window
 };

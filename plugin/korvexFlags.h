@@ -3,35 +3,33 @@
 // kind of edit is a further row: the syntax, the command and its undo follow the table.
 #pragma once
 
-#include "commands/preparers.h"
-#include "commands/writers.h"
+#include "commands/weightEdit.h"
 
 struct korvexFlag {
     const char *shortName;
     const char *longName;
-    editPreparer prepare;
-    editWriter write;
+    editKind kind;
 };
 
 // In the order in which the command looks for them: the first that is set and can be prepared is
 // carried out.
 const korvexFlag kKorvexFlags[] = {
     // limit the influences per vertex
-    {"-nm", "-numMax", prepareMaxInfluences, writeMaxInfluences},
+    {"-nm", "-numMax", {prepareMaxInfluences, writeMaxInfluences}},
     // round all weights
-    {"-r", "-round", prepareRounding, writeRounding},
+    {"-r", "-round", {prepareRounding, writeRounding}},
     // flood one joint column with a value
-    {"-re", "-replace", prepareFlood, writeFlood},
+    {"-re", "-replace", {prepareFlood, writeFlood}},
     // typed values
-    {"-sd", "-setData", prepareCells, writeCells},
+    {"-sd", "-setData", {prepareCells, writeCells}},
     // the slider, over cells
-    {"-ds", "-dragSlider", prepareCells, writeCells},
+    {"-ds", "-dragSlider", {prepareCells, writeCells}},
     // the slider, over a joint column
-    {"-dsc", "-dragSliderColumn", prepareColumn, writeColumn},
+    {"-dsc", "-dragSliderColumn", {prepareColumn, writeColumn}},
     // FIXME: smooth with the paint tool; nothing is prepared for it yet, which its writer reports.
-    {"-sm", "-skinPaintSmooth", prepareNothing, writeColumn},
+    {"-sm", "-skinPaintSmooth", {prepareNothing, writeColumn}},
     // FIXME: smooth with the skin cluster's own edit; likewise.
     // Deliberate: shares its short name with the flag above. Scripts use the long names; Maya
     // keeps those whatever it makes of the short one.
-    {"-sm", "-smoothSkinWeights", prepareNothing, writeColumn},
+    {"-sm", "-smoothSkinWeights", {prepareNothing, writeColumn}},
 };
