@@ -10,6 +10,7 @@
 #include "model/dragCells.h"
 #include "model/weightRow.h"
 
+#include <QString>
 #include <QVector>
 
 struct editHandOver {
@@ -32,4 +33,15 @@ struct editHandOver {
 
     // The slider over a column.
     sliderMove columnDrag;
+
+    // Smoothing by the skin cluster's own edit: the MEL that does it, and where it may write: in
+    // these rows, or on the whole mesh of that shape (-1: the rows count).
+    QString smoothingScript;
+    QVector<int> smoothedRows;
+    int smoothedShape = -1;
+
+    // Smoothing by the paint tool, of the joint at operationColumn: the rows to paint, and how much
+    // of the effect they get, 0 to 1.
+    QVector<int> paintedRows;
+    double paintOpacity = 0.0;
 };

@@ -20,6 +20,14 @@ inline MString mayaTextOf(const QString &text)
     return result;
 }
 
+// A number as MEL reads it.
+inline QString textOf(double number)
+{
+    MString text;
+    text += number;
+    return textOf(text);
+}
+
 // A message with `argument` in its place "^1s".
 inline MString messageWith(const char *message, const MString &argument)
 {

@@ -27,6 +27,21 @@ const char kManyJointsToFlood[] =
 const char kJointHasLocks[] = "This joint column has some locked cells. Please unlock those cells.";
 const char kLockedVerticesLeft[] = "Locked vertices that kept their weights: ^1s."; // ^1s: how many
 
+// Smoothing.
+const char kNoWeightListYet[] = "There is no weight list created yet.";
+const char kInvalidRow[] = "The selected cell row number is invalid.";
+const char kSeveralSkinClusters[] =
+    "The vertices are not on the same skinCluster. You can only smooth vertices on the same "
+    "SkinCluster one at a time. Please only select vertices on the same shape.";
+const char kNoVertexToSmooth[] = "There is no valid vertex cell selected for smoothing.";
+const char kNoShapeToSmooth[] = "Can not find valid shape for smoothing.";
+const char kCellsOfSeveralJoints[] = "Please select cells under same joint.";
+const char kNoJointToSmooth[] = "No joint has been selected for Smooth Operation. Please select a "
+                                "joint, or select cells under same joint";
+const char kLockedJointToSmooth[] =
+    "This joint has been locked. Please unlock the joint to do smooth.";
+const char kSmoothingNotSetUp[] = "Smooth skin weights command is not properly setup.";
+
 // Edits on their way into a skin cluster.
 const char kDataNotSetUp[] = "Data was not set up properly before executing this command. Please "
                              "reload data into korvex.";

@@ -71,4 +71,6 @@ void weightTableModel::forgetSnapshots()
     undoRows_.clear();
     unroundedRows_.clear();
     handOver_.roundedRows.clear();
+    handOver_.smoothingScript.clear();
+    handOver_.paintedRows.clear();
 }

@@ -52,6 +52,10 @@ public:
     bool isHighlighting() const { return isHighlighting_; }
     // Whether the skin paint tool is smoothing on the editor's behalf; it changes the selection.
     bool getSkinPaintSmoothMode() const { return skinPaintSmoothMode_; }
+    void setSkinPaintSmoothMode(bool on) { skinPaintSmoothMode_ = on; }
+    // The same for the skin cluster's own smoothing.
+    bool getSmoothSkinWeightsMode() const { return smoothSkinWeightsMode_; }
+    void setSmoothSkinWeightsMode(bool on) { smoothSkinWeightsMode_ = on; }
 
     // Locks again what newUnlockAll() has unlocked.
     Q_INVOKABLE void restoreLocks();
@@ -105,6 +109,16 @@ public slots:
     // Gives the joint of the one selected column that weight on each vertex of a shape that is not
     // locked.
     void replaceValue(double value);
+
+    // Evens out jumps of weight by the skin cluster's own edit: on the vertices of all rows with a
+    // selected cell, which must share a skin cluster. With nothing selected it runs once for each
+    // skin cluster; vertices that are selected in Maya then limit it to themselves. `value` is the
+    // tolerance, 0 to 1: vertices that differ less from their neighbours stay; `numIter` the number
+    // of rounds.
+    void applySmoothSkinWeights(double value, int numIter);
+    // Draws one joint's weights towards those of the neighbours, with Maya's paint tool: on the
+    // selected cells of one column that are not locked. `value` is the opacity, 0 to 1.
+    void applySkinPaintSmooth(double value);
 
     // Hides the columns of joints without weight, or shows all again.
     void toggleFilter(bool on);
@@ -198,6 +212,10 @@ private:
     void storeRow(int row, const weightRow &weights, double sum);
     void announceRows(const QVector<int> &rows);
 
+    // Return the rows that may have changed.
+    QVector<int> smoothWholeMeshes(const QString &value, int iterations);
+    QVector<int> smoothSelectedRows(const QString &value, int iterations);
+
     // Finds the empty columns anew, then shows and hides; the second alone where rows changed one
     // by one.
     void applyColumnFilter();
@@ -236,6 +254,7 @@ private:
     bool ignoreNextSelectionChange_ = false;
     bool isMirroring_ = false;
     bool skinPaintSmoothMode_ = false;
+    bool smoothSkinWeightsMode_ = false;
 
     MCallbackId selectionChangedCallback_;
     MCallbackId sceneOpenedCallback_;
