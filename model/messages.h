@@ -58,6 +58,19 @@ const char kNoInfluence[] = "Could not find the influence.";
 const char kNormalizationFixed[] =
     "The normalizeWeights attribute of ^1s cannot be set, so no weight was written."; // ^1s: node
 
+// What is entered into the window's rows.
+const char kInvalidMaximum[] = "Can not set maximum influence with this number.";
+const char kMalformedPrecision[] =
+    "The precision number is not set up correctly. Please use the 0.XXXX1 format.";
+const char kNoFloodOperation[] = "Flood operation box value is out of range.";
+const char kInvalidSmoothing[] =
+    "Required Weight Difference or Smoothing Iterations value is invalid.";
+const char kInvalidOpacity[] = "Opacity number should be between 0.0 and 1.0.";
+const char kNoCellForValue[] =
+    "There is no cell selected for value change. Please select cell to change its value.";
+const char kNoValidCellForValue[] = "There is no cell with valid data to be set.";
+const char kNoNumberForCells[] = "The value for the selected cells is not a number.";
+
 // Locks.
 const char kNothingToLock[] =
     "There is nothing to lock. Please select joint column or vertex row to lock.";

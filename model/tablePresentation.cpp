@@ -33,6 +33,14 @@ QVariant weightTableModel::data(const QModelIndex &index, int role) const
     return cellData(row, cell, role);
 }
 
+bool weightTableModel::showsWeight(const QModelIndex &index) const
+{
+    if (!index.isValid() || index.row() >= rowCount())
+        return false;
+    const weightRow &row = weights_.rows.at(index.row());
+    return hasCell(row, index.column()) && isWeightCell(cellOf(row, index.column()));
+}
+
 QVariant weightTableModel::cellData(const weightRow &row, const cellIndex &cell, int role) const
 {
     const double value = cellOf(row, cell.column);

@@ -50,6 +50,8 @@ public:
     // The weight of the leading cell when it was last picked or typed into: where a drag starts.
     double currentCellValue() const { return currentCellValue_; }
     bool isHighlighting() const { return isHighlighting_; }
+    // Whether the cell shows a number: it is not a shape row's, and its joint can move the vertex.
+    bool showsWeight(const QModelIndex &index) const;
     // Whether the skin paint tool is smoothing on the editor's behalf; it changes the selection.
     bool getSkinPaintSmoothMode() const { return skinPaintSmoothMode_; }
     void setSkinPaintSmoothMode(bool on) { skinPaintSmoothMode_ = on; }
@@ -134,6 +136,8 @@ public slots:
     void multiCellSelected();
     void columnHeaderSelected(int column);
     void rowHeaderSelected(int row);
+    // A drag of the selection starts from here: the weight of its leading cell is read anew.
+    void renewCurrentCellValue();
 
     // Reads the locks that are stored on the loaded skin clusters, and gives the attributes that
     // store them to those that lack them.
@@ -228,7 +232,6 @@ private:
 
     QItemSelection viewSelection() const;
     void selectVerticesInMaya(const QVector<int> &rows);
-    void renewCurrentCellValue();
 
     weightList weights_;
     weightList weightsBeforeLoad_;
