@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ui/korvexWindow.h"
 
+#include <QItemSelectionModel>
+#include <QKeyEvent>
+#include <QMenu>
+
 #include "model/messages.h"
 #include "model/weightTableModel.h"
-#include "ui/weightColumnHeaderView.h"
+#include "ui/controlParts.h"
+#include "ui/tableTyping.h"
 #include "ui/weightTableView.h"
 
 #include <maya/MGlobal.h>
@@ -14,25 +19,40 @@ korvexWindow::korvexWindow(QWidget *parent) : QMainWindow(parent)
     buildColumnHeader();
     connectTable();
     buildOptionsMenu();
-    assembleCentralWidget(buildButtons());
+    controlRows rows;
+    rows.maxInfluences = buildMaxInfluencesRow();
+    rows.buttons = buildTableButtons();
+    rows.precision = buildPrecisionRow();
+    rows.value = buildValueRow();
+    connectModel();
+    rows.flood = buildFloodPanel();
+    assembleCentralWidget(rows);
     setObjectName(QLatin1String("korvexWindow"));
     setWindowTitle(QLatin1String("Korvex"));
     setGeometry(200, 200, 500, 700);
 }
 
-void korvexWindow::loadWeightData()
+void korvexWindow::acted(QWidget *control)
 {
-    model_->refreshSkinClusterData();
+    lastControl_ = control;
 }
 
-void korvexWindow::toggleFilter(bool on)
+bool korvexWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    model_->toggleFilter(on);
+    if (watched == tableView_ && event->type() == QEvent::KeyPress && tableView_->hasFocus() &&
+        typeIntoTable(*static_cast<QKeyEvent *>(event)))
+        return true;
+    return QMainWindow::eventFilter(watched, event);
 }
 
-void korvexWindow::toggleHilight(bool on)
+// Also where no cell can be edited: the view would look for one that begins with the key.
+bool korvexWindow::typeIntoTable(QKeyEvent &key)
 {
-    model_->toggleHilight(on);
+    if (!beginsTyping(key) || !tableView_->selectionModel()->hasSelection())
+        return false;
+    if (typeIntoSelection(key, *tableView_, *model_))
+        acted(tableView_);
+    return true;
 }
 
 void korvexWindow::tableCellSelected(const QModelIndex &index)
@@ -42,19 +62,38 @@ void korvexWindow::tableCellSelected(const QModelIndex &index)
         return;
     }
     model_->cellSelected(index);
+    alignValueRow();
 }
 
 void korvexWindow::tableSelectionChanged(const QItemSelection &, const QItemSelection &)
 {
     model_->multiCellSelected();
+    alignValueRow();
 }
 
 void korvexWindow::columnHeaderClicked(int column)
 {
     model_->columnHeaderSelected(column);
+    resetValueRow();
 }
 
 void korvexWindow::rowHeaderClicked(int row)
 {
     model_->rowHeaderSelected(row);
+    resetValueRow();
+}
+
+void korvexWindow::showContextMenu(const QPoint &point)
+{
+    if (!contextMenu_) {
+        contextMenu_ = new QMenu(this);
+        contextMenu_->setObjectName(QLatin1String("cellMenu"));
+        const controlConnection connections[] = {
+            {contextMenu_->addAction(QLatin1String("Lock")), SIGNAL(triggered()), SLOT(lockCell())},
+            {contextMenu_->addAction(QLatin1String("Unlock")), SIGNAL(triggered()),
+             SLOT(unlockCell())},
+        };
+        connectAll(connections, model_);
+    }
+    contextMenu_->popup(tableView_->viewport()->mapToGlobal(point));
 }

@@ -10,60 +10,34 @@
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "model/weightTableModel.h"
+#include "ui/controlParts.h"
 #include "ui/qtCompatibility.h"
 #include "ui/weightColumnHeaderView.h"
+#include "ui/weightScale.h"
 #include "ui/weightTableView.h"
 
 namespace
 {
 
 const int kRowHeight = 21;
-const int kColumnWidth = 40;
 const int kNarrowestColumn = 20;
-const int kButtonWidth = 140;
 const int kCellMargins = 11; // both sides together, as item views leave them
 const int kSmallestFont = 7;
 const int kMargin = 15;
 const int kSpacing = 5;
-const char kCheckedButtonStyle[] =
-    "QPushButton:checked { background-color: lightGray; color: black}";
 
 // The font, made smaller until a weight with three decimals fits into a column.
 QFont weightFont(QFont font)
 {
+    const int room = jointColumnWidth(3) - kCellMargins;
     int height = QFontInfo(font).pixelSize();
     const QString widest = QLatin1String("0.000");
-    while (height > kSmallestFont &&
-           QFontMetrics(font).boundingRect(widest).width() > kColumnWidth - kCellMargins)
+    while (height > kSmallestFont && QFontMetrics(font).boundingRect(widest).width() > room)
         font.setPixelSize(--height);
     return font;
-}
-
-enum buttonKind { kPushButton, kCheckButton };
-
-struct windowButton {
-    const char *text;
-    const char *objectName;
-    buttonKind kind;
-    const char *signal;
-    const char *slot; // of the window
-};
-
-QPushButton *createButton(const windowButton &description, QObject *window)
-{
-    QPushButton *button = new QPushButton(QLatin1String(description.text));
-    button->setObjectName(QLatin1String(description.objectName));
-    button->setFixedWidth(kButtonWidth);
-    if (description.kind == kCheckButton) {
-        button->setCheckable(true);
-        button->setStyleSheet(QLatin1String(kCheckedButtonStyle));
-    }
-    QObject::connect(button, description.signal, window, description.slot);
-    return button;
 }
 
 } // namespace
@@ -87,7 +61,7 @@ void korvexWindow::buildColumnHeader()
     columnHeader_ = new weightColumnHeaderView(Qt::Horizontal);
     tableView_->setHorizontalHeader(columnHeader_);
     columnHeader_->setMinimumSectionSize(kNarrowestColumn);
-    columnHeader_->setDefaultSectionSize(kColumnWidth);
+    columnHeader_->setDefaultSectionSize(jointColumnWidth(precisionDigits_));
     setSectionsClickable(*columnHeader_, true);
     columnHeader_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     columnHeader_->setHighlightSections(true);
@@ -100,14 +74,27 @@ void korvexWindow::connectTable()
     connect(columnHeader_, SIGNAL(sectionClicked(int)), this, SLOT(columnHeaderClicked(int)));
     connect(tableView_->verticalHeader(), SIGNAL(sectionClicked(int)), this,
             SLOT(rowHeaderClicked(int)));
+    tableView_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(tableView_, SIGNAL(customContextMenuRequested(const QPoint &)), this,
+            SLOT(showContextMenu(const QPoint &)));
     connect(tableView_->selectionModel(),
             SIGNAL(selectionChanged(const QItemSelection &, const QItemSelection &)), this,
             SLOT(tableSelectionChanged(const QItemSelection &, const QItemSelection &)));
     // In this order: columns first, then the locks that are stored for what was loaded.
     connect(model_, SIGNAL(modelReset()), model_, SLOT(setUpColumn()));
     connect(model_, SIGNAL(modelReset()), model_, SLOT(checkLockAttr()));
+}
+
+// After the rows of controls, which then show what the table holds.
+void korvexWindow::connectModel()
+{
     connect(tableView_, SIGNAL(clicked(const QModelIndex &)), this,
             SLOT(tableCellSelected(const QModelIndex &)));
+    connect(model_, SIGNAL(topRightCellDataChanged(double, double, double)), this,
+            SLOT(updateSliderValue(double, double, double)));
+    connect(model_, SIGNAL(modelReset()), this, SLOT(alignValueRow()));
+    // After the view, which gives the text to the model.
+    connect(tableView_->itemDelegate(), SIGNAL(commitData(QWidget *)), this, SLOT(alignValueRow()));
 }
 
 void korvexWindow::buildOptionsMenu()
@@ -121,27 +108,21 @@ void korvexWindow::buildOptionsMenu()
     options->addAction(QLatin1String("Load Preset"));
 }
 
-QLayout *korvexWindow::buildButtons()
-{
-    const windowButton loading[] = {
-        {"Load Component", "LoadComponent", kPushButton, SIGNAL(clicked()), SLOT(loadWeightData())},
-        {"Filter", "Filter", kCheckButton, SIGNAL(toggled(bool)), SLOT(toggleFilter(bool))},
-        {"Highlight", "Highlight", kCheckButton, SIGNAL(toggled(bool)), SLOT(toggleHilight(bool))},
-    };
-    QHBoxLayout *row = new QHBoxLayout;
-    for (const windowButton &button : loading)
-        row->addWidget(createButton(button, this));
-    row->addStretch();
-    return row;
-}
-
-void korvexWindow::assembleCentralWidget(QLayout *buttons)
+// Rows of controls from top to bottom, the table below them.
+void korvexWindow::assembleCentralWidget(const controlRows &rows)
 {
     QFrame *frame = new QFrame(this);
     QVBoxLayout *layout = new QVBoxLayout(frame);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     layout->setSpacing(kSpacing);
-    layout->addLayout(buttons);
+    layout->addLayout(rows.maxInfluences);
+    layout->addWidget(createSeparator());
+    layout->addLayout(rows.precision);
+    layout->addWidget(createSeparator());
+    layout->addLayout(rows.flood);
+    layout->addWidget(createSeparator());
+    layout->addLayout(rows.buttons);
+    layout->addLayout(rows.value);
     layout->addWidget(tableView_);
     setCentralWidget(frame);
 }

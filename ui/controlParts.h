@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: Apache-2.0
+// What the window's rows of controls are made of. Sizes are pixels.
+//
+// Controls come without a parent: the window gives them one with the layout that they are put into.
+#pragma once
+
+#include <cstddef>
+
+#include <QObject>
+
+class QFrame;
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QWidget;
+
+const int kButtonWidth = 140;
+
+// A signal of a control and the slot of the window that it starts.
+struct controlConnection {
+    QObject *sender;
+    const char *signal;
+    const char *slot;
+};
+
+template <std::size_t count>
+void connectAll(const controlConnection (&connections)[count], QObject *window)
+{
+    for (const controlConnection &each : connections)
+        QObject::connect(each.sender, each.signal, window, each.slot);
+}
+
+enum class buttonKind { push, check };
+
+QPushButton *createButton(const char *text, const char *objectName, const char *toolTip,
+                          buttonKind kind = buttonKind::push);
+
+QLineEdit *createEdit(const char *text, const char *objectName, const char *toolTip);
+
+// Names `control`, to assistive software too, and has its tool tip.
+QLabel *createLabel(const char *text, QWidget *control);
+
+// An edit behind its label, and at a distance the button that acts on what it says.
+QHBoxLayout *createEditRow(const char *label, QLineEdit *edit, int distance, QPushButton *button);
+
+// Makes the font smaller until what the widget shows fits into so many pixels.
+void fitFont(QWidget *widget, int width);
+
+QFrame *createSeparator();
