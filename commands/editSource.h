@@ -12,3 +12,6 @@ struct editSource {
     const editHandOver &handOver;
     int maxInfluences;
 };
+
+// The joints of the locked columns, as Maya is to hold them.
+MDagPathArray lockedJoints(const editSource &source);

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include <maya/MFnDependencyNode.h>
+#include <maya/MFnMesh.h>
 #include <maya/MPlug.h>
 
 namespace
@@ -73,6 +74,12 @@ weightWrite &editedShapes::appendWriteToAll(int place, int shape)
     const int lastRow = source_.weights.endOfVertexRows(shape) - 1;
     return append(place, loadedVerticesOf(source_.weights, shape),
                   source_.weights.rowNames.vertex(lastRow));
+}
+
+weightWrite &editedShapes::appendWriteToMesh(int place)
+{
+    const int count = MFnMesh(edit_.shapes.at(place).path).numVertices();
+    return append(place, allVertices(count), count - 1);
 }
 
 weightWrite &editedShapes::append(int place, const MObject &component, int highestVertex)

@@ -26,6 +26,8 @@ public:
     // A write to some vertices, or to all that are loaded, without values. Valid until the next.
     weightWrite &appendWrite(int place, const QVector<int> &vertices);
     weightWrite &appendWriteToAll(int place, int shape);
+    // To all vertices of the mesh, in the table or not.
+    weightWrite &appendWriteToMesh(int place);
 
 private:
     weightWrite &append(int place, const MObject &component, int highestVertex);

@@ -29,17 +29,6 @@ MDoubleArray draggedWeights(const editSource &source, int shape)
     return values;
 }
 
-MDagPathArray lockedJoints(const editSource &source)
-{
-    MDagPathArray joints;
-    const QList<int> columns = source.locks.joints();
-    for (int i = 0; i < columns.size(); ++i) {
-        if (columns.at(i) >= 0 && columns.at(i) < source.weights.jointCount())
-            joints.append(source.weights.jointPaths[static_cast<unsigned int>(columns.at(i))]);
-    }
-    return joints;
-}
-
 } // namespace
 
 preparation prepareColumn(const editSource &source, preparedEdit &edit)

@@ -14,6 +14,7 @@
 #include <maya/MDoubleArray.h>
 #include <maya/MObject.h>
 #include <maya/MObjectHandle.h>
+#include <maya/MStringArray.h>
 
 // A shape that the edit writes to.
 struct editedShape {
@@ -22,13 +23,14 @@ struct editedShape {
     unsigned int influenceCount = 0;
     int highestVertex = -1;         // that is written to
     QVector<int> influenceOfColumn; // limiting influences only; -1: none of this skin cluster
+    bool switchesMaximumOn = false; // smoothing only: maintainMaxInfluences was off before
 };
 
 // One call of setWeights, or a series of them on one vertex.
 struct weightWrite {
     int shape = -1; // in preparedEdit::shapes
     MObject component;
-    QVector<int> vertices; // of the component; empty if it is all that are loaded
+    QVector<int> vertices; // of the component; empty if it is all that are loaded, or more
 
     int influence = -1;  // where one influence is written
     double value = 0.0;  // where all vertices get the same
@@ -50,6 +52,11 @@ struct preparedEdit {
     // Rounded values sum to 1: they go in under whatever normalization the skin cluster has. All
     // other writes are normalized.
     bool leavesNormalizationAlone = false;
+
+    // Smoothing: the MEL by which Maya's own tools write, in all places of `writes` at once, and
+    // the joints that Maya must hold meanwhile.
+    MStringArray scripts;
+    MDagPathArray heldJoints;
 
     // What the writes displaced at the latest doing or redoing, in their order: the weights of all
     // influences, vertex by vertex. Shorter than `writes` where that broke off.

@@ -22,5 +22,5 @@ preparation prepareRounding(const editSource &source, preparedEdit &edit);
 preparation prepareFlood(const editSource &source, preparedEdit &edit);
 preparation prepareCells(const editSource &source, preparedEdit &edit);
 preparation prepareColumn(const editSource &source, preparedEdit &edit);
-// Leaves the edit empty.
-preparation prepareNothing(const editSource &source, preparedEdit &edit);
+preparation prepareSmoothing(const editSource &source, preparedEdit &edit);
+preparation preparePaintSmoothing(const editSource &source, preparedEdit &edit);

@@ -65,9 +65,14 @@ MDoubleArray shapeWriter::weightsOf(const MObject &component) const
 }
 
 shapeWriters::shapeWriters(const preparedEdit &edit)
+    : shapeWriters(edit.shapes, edit.leavesNormalizationAlone)
 {
-    for (int i = 0; areReady_ && i < edit.shapes.size(); ++i)
-        add(edit.shapes.at(i), edit.leavesNormalizationAlone);
+}
+
+shapeWriters::shapeWriters(const QVector<editedShape> &shapes, bool leavesNormalizationAlone)
+{
+    for (int i = 0; areReady_ && i < shapes.size(); ++i)
+        add(shapes.at(i), leavesNormalizationAlone);
 }
 
 void shapeWriters::add(const editedShape &shape, bool leavesNormalizationAlone)
@@ -84,6 +89,20 @@ void shapeWriters::add(const editedShape &shape, bool leavesNormalizationAlone)
         MGlobal::displayError(
             messageWith(kNormalizationFixed, MFnDependencyNode(shape.skinCluster.object()).name()));
     }
+}
+
+bool keepDisplaced(preparedEdit &edit)
+{
+    edit.oldWeights.clear();
+    if (edit.writes.isEmpty()) {
+        MGlobal::displayInfo(kDataNotSetUp);
+        return false;
+    }
+    shapeWriters readers(edit.shapes, true);
+    for (int i = 0; readers.areReady() && i < edit.writes.size(); ++i)
+        edit.oldWeights.append(
+            readers.of(edit.writes.at(i)).weightsOf(edit.writes.at(i).component));
+    return readers.areReady();
 }
 
 MStatus writeEach(preparedEdit &edit, writeStep step)

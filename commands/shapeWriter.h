@@ -46,6 +46,7 @@ public:
     // Shows a message if not all of it can be written: a shape or its skin cluster is gone, has
     // other influences or fewer vertices, or cannot be made to normalize.
     explicit shapeWriters(const preparedEdit &edit);
+    shapeWriters(const QVector<editedShape> &shapes, bool leavesNormalizationAlone);
 
     bool areReady() const { return areReady_; }
     // REQUIRES: areReady().
@@ -57,6 +58,10 @@ private:
     std::vector<std::unique_ptr<shapeWriter>> writers_;
     bool areReady_ = true;
 };
+
+// Fills the edit's oldWeights with the weights at all places of its writes, where something else
+// than writeEach() is to write. False, with a message, if there is no place or one is gone.
+bool keepDisplaced(preparedEdit &edit);
 
 // The loop of most writers: `step` writes once, into `old` what that displaced.
 typedef MStatus (*writeStep)(shapeWriter &writer, const weightWrite &write, MDoubleArray &old);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "commands/undoReplay.h"
 
+#include "commands/maximumSwitch.h"
 #include "commands/shapeWriter.h"
 
 MStatus replayDisplaced(const preparedEdit &edit)
@@ -10,6 +11,7 @@ MStatus replayDisplaced(const preparedEdit &edit)
     shapeWriters writers(edit);
     if (!writers.areReady())
         return MStatus::kFailure;
+    switchMaximumsBack(edit);
     MStatus status = MStatus::kFailure;
     for (int i = 0; i < edit.oldWeights.size(); ++i) {
         const MDoubleArray &old = edit.oldWeights.at(i);

@@ -20,13 +20,18 @@ MObject componentOf(const QVector<int> &vertices)
     return object;
 }
 
+MObject allVertices(int count)
+{
+    MFnSingleIndexedComponent component;
+    const MObject object = component.create(MFn::kMeshVertComponent);
+    component.setCompleteData(count);
+    return object;
+}
+
 MObject loadedVerticesOf(const weightList &weights, int shape)
 {
     const MObject &loaded = weights.shapeComponents[static_cast<unsigned int>(shape)];
     if (!loaded.isNull())
         return loaded;
-    MFnSingleIndexedComponent component;
-    const MObject object = component.create(MFn::kMeshVertComponent);
-    component.setCompleteData(weights.endOfVertexRows(shape) - weights.firstVertexRow(shape));
-    return object;
+    return allVertices(weights.endOfVertexRows(shape) - weights.firstVertexRow(shape));
 }

@@ -11,5 +11,8 @@ MObject oneVertex(int vertex);
 // In any order, each once.
 MObject componentOf(const QVector<int> &vertices);
 
+// The first `count`.
+MObject allVertices(int count);
+
 // The vertices of a shape that stand in the table, in the order of their rows.
 MObject loadedVerticesOf(const weightList &weights, int shape);

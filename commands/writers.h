@@ -32,3 +32,13 @@ MStatus writeFlood(preparedEdit &edit);
 // Cells of one joint column are written together (cellGroups.h). Joints of locked cells are held.
 MStatus writeCells(preparedEdit &edit);
 MStatus writeColumn(preparedEdit &edit);
+
+// Have Maya's own tools smooth. What that displaces is read before. The user's selection, and for
+// the paint tool the user's tool and what can be picked, are afterwards what they were, also where
+// something failed.
+//
+// By the skin cluster's own edit, which leaves maintainMaxInfluences on until it is undone. Without
+// a script there is a message and kFailure.
+MStatus writeSmoothing(preparedEdit &edit);
+// Joints of locked columns are held, and thus end free (influenceHold.h).
+MStatus writePaintSmoothing(preparedEdit &edit);

@@ -26,10 +26,10 @@ const korvexFlag kKorvexFlags[] = {
     {"-ds", "-dragSlider", {prepareCells, writeCells}},
     // the slider, over a joint column
     {"-dsc", "-dragSliderColumn", {prepareColumn, writeColumn}},
-    // FIXME: smooth with the paint tool; nothing is prepared for it yet, which its writer reports.
-    {"-sm", "-skinPaintSmooth", {prepareNothing, writeColumn}},
-    // FIXME: smooth with the skin cluster's own edit; likewise.
+    // smooth with the paint tool
+    {"-sm", "-skinPaintSmooth", {preparePaintSmoothing, writePaintSmoothing}},
+    // smooth with the skin cluster's own edit
     // Deliberate: shares its short name with the flag above. Scripts use the long names; Maya
     // keeps those whatever it makes of the short one.
-    {"-sm", "-smoothSkinWeights", {prepareNothing, writeColumn}},
+    {"-sm", "-smoothSkinWeights", {prepareSmoothing, writeSmoothing}},
 };

@@ -13,7 +13,7 @@ TEST_F(command, reportsAnEditThatNobodyPrepared)
 {
     const std::string items = undoItems();
     for (const char *flag : {"-round", "-replace", "-setData", "-dragSlider", "-dragSliderColumn",
-                             "-skinPaintSmooth", "-smoothSkinWeights"}) {
+                             "-skinPaintSmooth"}) {
         EXPECT_EQ(melError(std::string("korvexCmd ") + flag), "") << flag;
         EXPECT_EQ(infos_.take(), kDataNotSetUp) << flag;
     }

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: Apache-2.0
+// A loaded table to be smoothed, and what the user has in hand meanwhile.
+#pragma once
+
+#include "edit/editScene.h"
+
+class SmoothingScene : public EditScene
+{
+protected:
+    SmoothingScene();
+    ~SmoothingScene() override;
+
+    // Two rows of four vertices, 0 to 3 and 4 to 7, of hip, knee and ankle. All is of the hip but
+    // for vertex 1, a peak of the knee between 0, 2 and 5.
+    static void makeStrip(const std::string &mesh);
+
+    void smooth(double tolerance, int rounds);
+    void paint(double opacity);
+
+    // All vertices: "1 0 0; 0 1 0; ...".
+    static std::string all(const std::string &mesh = "body", int count = 8);
+
+    // What the Script Editor has shown of commands since the last call, a line each.
+    std::string takeShown();
+
+    // Selection, components that can be picked, tool, what can be picked: as one text.
+    static std::string handsOfTheUser();
+
+private:
+    static void keepShown(const MString &message, MCommandMessage::MessageType type, void *self);
+
+    std::string shown_;
+    MCallbackId shownCallback_;
+};
