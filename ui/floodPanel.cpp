@@ -134,7 +134,7 @@ void korvexWindow::applySmoothSkinWeights()
         MGlobal::displayError(kInvalidSmoothing);
         return;
     }
-    Q_UNUSED(iterations);
+    model_->applySmoothSkinWeights(difference.value, iterations);
     acted(floodApplyButton_);
 }
 
@@ -143,6 +143,7 @@ void korvexWindow::applySkinPaintSmooth()
     const typedNumber value = floodValue();
     if (!value.isValid)
         return;
+    model_->applySkinPaintSmooth(value.value);
     acted(floodApplyButton_);
 }
 
