@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 
+#include "commands/operationCommands.h"
 #include "model/messages.h"
 #include "model/weightTableModel.h"
 #include "ui/controlParts.h"
@@ -30,7 +31,10 @@ korvexWindow::korvexWindow(QWidget *parent) : QMainWindow(parent)
     setObjectName(QLatin1String("korvexWindow"));
     setWindowTitle(QLatin1String("Korvex"));
     setGeometry(200, 200, 500, 700);
+    commands_.reset(new operationCommands(this, model_));
 }
+
+korvexWindow::~korvexWindow() = default;
 
 void korvexWindow::acted(QWidget *control)
 {

@@ -12,6 +12,8 @@
 #include <QModelIndex>
 #include <QPointer>
 
+#include <memory>
+
 #include "ui/floodRow.h"
 #include "ui/weightScale.h"
 
@@ -23,6 +25,7 @@ class QLineEdit;
 class QMenu;
 class QPushButton;
 class QSlider;
+class operationCommands;
 class weightColumnHeaderView;
 class weightTableModel;
 class weightTableView;
@@ -33,6 +36,7 @@ class korvexWindow : public QMainWindow
 
 public:
     explicit korvexWindow(QWidget *parent);
+    ~korvexWindow() override;
 
     // The window keeps it.
     weightTableModel *model() const { return model_; }
@@ -178,4 +182,6 @@ private:
     bool isAbsolute_ = false;
     bool wasAbsolute_ = false;
     bool isDragAnswered_ = false; // by updateSliderValue(), while the model drags
+
+    std::unique_ptr<operationCommands> commands_; // nothing here executes them
 };
