@@ -97,7 +97,7 @@ void weightTableModel::applyPrecision()
     unroundedRows_ = readUnroundedRows();
     handOver_.roundedRows = weights_.rows;
     warnOfWeightsOutOfRange(handOver_.roundedRows);
-    MGlobal::executeCommand("korvexCmd -round", true, true);
+    runEdit("-round");
 }
 
 void weightTableModel::undoApplyPrecision()

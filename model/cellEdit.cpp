@@ -6,7 +6,6 @@
 #include "model/typedValue.h"
 
 #include <maya/MGlobal.h>
-#include <maya/MString.h>
 
 bool weightTableModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
@@ -23,7 +22,7 @@ bool weightTableModel::setData(const QModelIndex &index, const QVariant &value, 
     const QVector<cellIndex> selected = selectedCells(edited);
     fillPending(typed, selected);
     // The command says what goes wrong. The table then shows what is in the scene.
-    MGlobal::executeCommand("korvexCmd -setData", true, true);
+    runEdit("-setData");
 
     refreshEditedRows(selected);
     if (edited.row < rowCount() && hasCell(weights_.rows.at(edited.row), edited.column))

@@ -70,7 +70,7 @@ void weightTableModel::replaceValue(double value)
     handOver_.floodShapes.append(shape);
     handOver_.operationColumn = column;
     handOver_.floodValue = boundedWeight(value);
-    MGlobal::executeCommand("korvexCmd -replace", true, true);
+    runEdit("-replace");
 
     QVector<int> rows;
     for (int row = firstRow; row < weights_.endOfVertexRows(shape); ++row)

@@ -48,7 +48,7 @@ void weightTableModel::applyMaxInfluence()
     if (!hasRowBeyond(settings_.maxInfluences, screened.rows, weights_.rows))
         return;
     handOver_.maxInfluenceRows = screened.rows;
-    MGlobal::executeCommand("korvexCmd -numMax", true, true);
+    runEdit("-numMax");
 
     announceRows(screened.rows);
     showFilteredColumns();

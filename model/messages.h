@@ -105,6 +105,13 @@ const char kCannotRestoreWeights[] = "There is a problem with restoring weight d
 const char kArraysDiffer[] =
     "Weight list length and Joint list length doesn't match for this component.";
 
+// Undoing and redoing in the window.
+const char kNotLastChange[] = "Something else has been done since the last edit of the table, or "
+                              "it is not on the undo queue. "
+                              "Nothing was undone.";
+const char kNotNextToRedo[] =
+    "Something else has been done since the last edit of the table was undone. Nothing was redone.";
+
 // The command without a place to act on.
 const char kNoUserInterface[] = "korvexCmd needs Maya's user interface.";
 const char kWindowNeverOpened[] =

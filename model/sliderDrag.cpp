@@ -35,7 +35,7 @@ void weightTableModel::dragSlider(double value, bool absolute)
         const double weight = cellOf(weights_.rows.at(cells.at(i).row), cells.at(i).column);
         handOver_.pendingValues.append(movedWeight(move, weight));
     }
-    MGlobal::executeCommand("korvexCmd -dragSlider", true, true);
+    runEdit("-dragSlider");
 
     refreshEditedRows(cells);
     emit topRightCellDataChanged(cellOf(weights_.rows.at(lead.row), lead.column), lastValue,
@@ -86,7 +86,7 @@ void weightTableModel::dragSliderColumn(double value, bool absolute)
     keepPreviousWeights();
     handOver_.operationColumn = column;
     handOver_.columnDrag = moveTo(value, absolute, lastValue, origValue);
-    MGlobal::executeCommand("korvexCmd -dragSliderColumn", true, true);
+    runEdit("-dragSliderColumn");
 
     refreshRowsEditedAt(allVertexRows(), column);
     emit topRightCellDataChanged(cellOf(weights_.rows.at(leadRow), column), lastValue, origValue);

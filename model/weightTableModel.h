@@ -15,6 +15,7 @@
 
 #include "model/cellAppearance.h"
 #include "model/editHandOver.h"
+#include "model/editTrail.h"
 #include "model/emptyColumns.h"
 #include "model/lockState.h"
 #include "model/weightList.h"
@@ -44,6 +45,8 @@ public:
     const lockState &locks() const { return locks_; }
     // What the operation that runs korvexCmd has left for it.
     const editHandOver &handOver() const { return handOver_; }
+    // Where korvexCmd tells what becomes of its edits.
+    editTrail &trail() { return trail_; }
     // Decimal places shown.
     int displayPrecision() const { return settings_.precision; }
     int maxInfluences() const { return settings_.maxInfluences; }
@@ -182,6 +185,10 @@ public slots:
     void redoApplyPrecision();
     void undoPrecision();
     void undoMaxInfluence();
+    // Have Maya undo, or redo, the last action that wrote weights, and keep what the table showed
+    // before. Refused if Maya would undo something else: then something has been done since.
+    void undoLastAction();
+    void redoLastAction();
 
 signals:
     // After each step of a drag: the leading cell's weight now, before the step, and where the drag
@@ -190,6 +197,9 @@ signals:
 
 private:
     friend class lockEdit;
+
+    // Has korvexCmd carry out what is handed over: an action, or part of the one that is open.
+    void runEdit(const char *flag);
 
     QVariant cellData(const weightRow &row, const cellIndex &cell, int role) const;
     QVariant rowHeaderData(int row, int role) const;
@@ -238,6 +248,7 @@ private:
     lockState locks_;
     lockState previousLocks_; // what newUnlockAll() found
     editHandOver handOver_;
+    editTrail trail_;
     displaySettings settings_;
     int previousMaxInfluences_;
     int previousPrecision_; // before the last setPrecision()

@@ -4,6 +4,7 @@
 #include <QApplication>
 
 #include "model/messages.h"
+#include "model/weightTableModel.h"
 #include "plugin/hostWindow.h"
 #include "plugin/korvexFlags.h"
 #include "plugin/processState.h"
@@ -48,7 +49,19 @@ MSyntax korvexCmd::newSyntax()
     return syntax;
 }
 
+// The window, and the table with it, may go while the command is on the undo queue.
+korvexCmd::~korvexCmd()
+{
+    if (activeModel)
+        activeModel->trail().dropped(number_);
+}
+
 MStatus korvexCmd::doIt(const MArgList &arguments)
+{
+    return reportDone(run(arguments));
+}
+
+MStatus korvexCmd::run(const MArgList &arguments)
 {
     MStatus status;
     const MArgParser parser(syntax(), arguments, &status);
@@ -63,20 +76,31 @@ MStatus korvexCmd::doIt(const MArgList &arguments)
             continue;
         const preparation prepared = edit_.prepare(flag.kind, activeModel);
         if (prepared == preparation::ready)
-            return redoIt();
+            return edit_.write(activeModel);
         if (prepared == preparation::outdated)
             return MStatus::kFailure;
     }
     return MStatus::kSuccess;
 }
 
-// The window, and the table with it, may have gone while the command was on the undo queue.
 MStatus korvexCmd::redoIt()
 {
-    return edit_.write(activeModel);
+    return reportDone(edit_.write(activeModel));
 }
 
 MStatus korvexCmd::undoIt()
 {
-    return edit_.putBack(activeModel);
+    const MStatus status = edit_.putBack(activeModel);
+    if (activeModel)
+        activeModel->trail().undone(number_);
+    return status;
+}
+
+// A command that failed is not kept by Maya; still it may have written.
+MStatus korvexCmd::reportDone(MStatus status) const
+{
+    if (activeModel && (status || edit_.hasDisplaced()))
+        activeModel->trail().done(number_, edit_.hasDisplaced() ? editTrail::changedWeights
+                                                                : editTrail::changedNothing);
+    return status;
 }

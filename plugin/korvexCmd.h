@@ -4,6 +4,7 @@
 #pragma once
 
 #include "commands/weightEdit.h"
+#include "model/editTrail.h"
 
 #include <maya/MArgList.h>
 #include <maya/MPxCommand.h>
@@ -17,6 +18,7 @@ public:
     // Maya owns what it returns.
     static void *creator() { return new korvexCmd; }
     static MSyntax newSyntax();
+    ~korvexCmd() override;
 
     // Needs Maya's user interface to open the window, and an opened window to carry an edit. An
     // edit that cannot be prepared is no failure, but for one that the scene has no place for.
@@ -28,5 +30,9 @@ public:
     bool isUndoable() const override { return true; }
 
 private:
+    MStatus run(const MArgList &arguments);
+    MStatus reportDone(MStatus status) const;
+
+    const int number_ = editTrail::newEdit();
     weightEdit edit_; // never prepared if this invocation opened the window
 };
