@@ -1,53 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 // What riggers wait for while they type: one cell, and a thousand at once, in a table of 100,000
 // vertices and 100 joints. Ratios within one run, beside the goal that they should stay below.
-#include <algorithm>
-#include <chrono>
-#include <limits>
-
-#include <QAbstractItemModel>
-#include <QApplication>
-#include <QItemSelectionModel>
-#include <QTableView>
+#include <QItemSelection>
 
 #include <benchmark/benchmark.h>
-
-#include <maya/MDoubleArray.h>
-#include <maya/MFnSkinCluster.h>
-#include <maya/MLibrary.h>
 
 #include "riggingScene.h"
 
 namespace
 {
-
-template <typename Function>
-double secondsOf(Function function)
-{
-    const auto start = std::chrono::steady_clock::now();
-    function();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-// The quickest of several, so that a pause of the machine does not count.
-template <typename Function>
-double quickestOf(int times, Function function)
-{
-    double quickest = std::numeric_limits<double>::max();
-    for (int i = 0; i < times; ++i)
-        quickest = std::min(quickest, secondsOf(function));
-    return quickest;
-}
-
-QTableView &tableView(const QAbstractItemModel &model)
-{
-    for (QWidget *widget : QApplication::allWidgets()) {
-        QTableView *view = qobject_cast<QTableView *>(widget);
-        if (view && view->model() == &model)
-            return *view;
-    }
-    std::abort();
-}
 
 // The table with the first `count` cells of a joint column selected, of vertices that it moves.
 QAbstractItemModel &tableWithSelection(int count)
@@ -57,8 +18,7 @@ QAbstractItemModel &tableWithSelection(int count)
         rigging::openScene();
         rigging::loadTable(model);
     }
-    const QItemSelection cells(model.index(1, 0), model.index(count, 0));
-    tableView(model).selectionModel()->select(cells, QItemSelectionModel::ClearAndSelect);
+    rigging::selectCells(model, QItemSelection(model.index(1, 0), model.index(count, 0)));
     return model;
 }
 
@@ -72,7 +32,7 @@ const typedTexts kChanges = {"+=0.01", "-=0.01"};
 double secondsPerEdit(QAbstractItemModel &model, int times, const typedTexts &texts = kValues)
 {
     int number = 0;
-    return quickestOf(times, [&] {
+    return rigging::quickestOf(times, [&] {
         model.setData(model.index(1, 0), ++number % 2 ? texts.first : texts.second);
     });
 }
@@ -82,13 +42,7 @@ double secondsPerEdit(QAbstractItemModel &model, int times, const typedTexts &te
 void typeIntoOneCell(benchmark::State &state)
 {
     QAbstractItemModel &model = tableWithSelection(1);
-    const rigging::Skin skin = rigging::skin();
-    const double reading = quickestOf(3, [&] {
-        MDoubleArray weights;
-        unsigned int influences = 0;
-        MFnSkinCluster(skin.skinCluster).getWeights(skin.shape, skin.vertices, weights, influences);
-        benchmark::DoNotOptimize(weights[0]);
-    });
+    const double reading = rigging::secondsToReadWeights();
     double editing = 0.0;
     for (auto _ : state) {
         editing = secondsPerEdit(model, 50);
@@ -122,16 +76,3 @@ BENCHMARK_CAPTURE(typeIntoAThousandCells, change, kChanges)
     ->Unit(benchmark::kMicrosecond);
 
 } // namespace
-
-int main(int argumentCount, char **arguments)
-{
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argumentCount, arguments);
-    benchmark::Initialize(&argumentCount, arguments);
-    if (!MLibrary::initialize(false, arguments[0]))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    MLibrary::cleanup(0, false);
-    return 0;
-}

@@ -3,15 +3,22 @@
 
 #include <cstdlib>
 #include <iostream>
+#include <random>
 #include <sstream>
 
-#include <QAbstractItemModel>
 #include <QApplication>
+#include <QItemSelectionModel>
+#include <QTableView>
 #include <QTemporaryDir>
-#include <QWidget>
 
+#include <benchmark/benchmark.h>
+
+#include <maya/MDagPath.h>
+#include <maya/MDoubleArray.h>
 #include <maya/MFnSingleIndexedComponent.h>
+#include <maya/MFnSkinCluster.h>
 #include <maya/MGlobal.h>
+#include <maya/MIntArray.h>
 #include <maya/MSelectionList.h>
 #include <maya/MString.h>
 
@@ -30,20 +37,52 @@ std::string makeSceneScript()
     for (int i = 0; i < kInfluences; ++i)
         script << "select -cl; joint -p " << (i % 10) * 4 - 18 << " 0.1 " << (i / 10) * 2.5 - 11.25
                << " -n joint" << i << ";\n";
-    script << "skinCluster -tsb -mi 5 -dr 4 -n sheetSkin";
+    script << "skinCluster -tsb -mi 8 -dr 4 -n sheetSkin";
     for (int i = 0; i < kInfluences; ++i)
         script << " joint" << i;
     script << " sheet;\n";
     return script.str();
 }
 
-[[noreturn]] void fail(const std::string &what)
+// The mesh's shape, its skin cluster, and a component of all its vertices.
+struct skinOfSheet {
+    MDagPath shape;
+    MObject skinCluster;
+    MObject vertices;
+};
+
+skinOfSheet findSkin()
+{
+    skinOfSheet found;
+    MSelectionList list;
+    list.add("sheet");
+    list.add("sheetSkin");
+    list.getDagPath(0, found.shape);
+    found.shape.extendToShape();
+    list.getDependNode(1, found.skinCluster);
+    MFnSingleIndexedComponent component;
+    found.vertices = component.create(MFn::kMeshVertComponent);
+    component.setCompleteData(kVertices);
+    return found;
+}
+
+QTableView &viewOf(const QAbstractItemModel &model)
+{
+    for (QWidget *widget : QApplication::allWidgets()) {
+        QTableView *view = qobject_cast<QTableView *>(widget);
+        if (view && view->model() == &model)
+            return *view;
+    }
+    fail("the window has a table");
+}
+
+} // namespace
+
+void fail(const std::string &what)
 {
     std::cerr << "benchmark: failed: " << what.substr(0, 200) << std::endl;
     std::exit(1);
 }
-
-} // namespace
 
 void mel(const std::string &script)
 {
@@ -71,19 +110,32 @@ void openScene()
     mel("select sheet");
 }
 
-Skin skin()
+void scatterWeights()
 {
-    Skin found;
-    MSelectionList list;
-    list.add("sheet");
-    list.add("sheetSkin");
-    list.getDagPath(0, found.shape);
-    found.shape.extendToShape();
-    list.getDependNode(1, found.skinCluster);
-    MFnSingleIndexedComponent component;
-    found.vertices = component.create(MFn::kMeshVertComponent);
-    component.setCompleteData(kVertices);
-    return found;
+    const skinOfSheet skin = findSkin();
+    std::mt19937 random(1);
+    MDoubleArray weights(unsigned(kVertices * kInfluences), 0.0);
+    for (int vertex = 0; vertex < kVertices; ++vertex) {
+        for (int i = 0; i < 8; ++i) {
+            const int joint = int(random() % kInfluences);
+            weights[unsigned(vertex * kInfluences + joint)] += 0.125;
+        }
+    }
+    MIntArray joints;
+    for (int i = 0; i < kInfluences; ++i)
+        joints.append(i);
+    MFnSkinCluster(skin.skinCluster).setWeights(skin.shape, skin.vertices, joints, weights);
+}
+
+double secondsToReadWeights()
+{
+    const skinOfSheet skin = findSkin();
+    MDoubleArray weights;
+    unsigned int influences = 0;
+    return quickestOf(3, [&] {
+        MFnSkinCluster(skin.skinCluster).getWeights(skin.shape, skin.vertices, weights, influences);
+        benchmark::DoNotOptimize(weights[0]);
+    });
 }
 
 QAbstractItemModel &editorModel()
@@ -102,8 +154,12 @@ QAbstractItemModel &editorModel()
 
 void loadTable(QAbstractItemModel &model)
 {
-    if (!QMetaObject::invokeMethod(&model, "refreshSkinClusterData"))
-        fail("refreshSkinClusterData");
+    call(model, "refreshSkinClusterData");
+}
+
+void selectCells(const QAbstractItemModel &model, const QItemSelection &cells)
+{
+    viewOf(model).selectionModel()->select(cells, QItemSelectionModel::ClearAndSelect);
 }
 
 } // namespace rigging

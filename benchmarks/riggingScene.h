@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
-// A scene of rigging size, and the editor on it.
+// A scene of rigging size, the editor on it, and what benchmarks of it measure with.
 #pragma once
 
+#include <algorithm>
+#include <chrono>
+#include <limits>
 #include <string>
 
-#include <maya/MDagPath.h>
-#include <maya/MObject.h>
+#include <QAbstractItemModel>
 
-class QAbstractItemModel;
+class QItemSelection;
 
 namespace rigging
 {
@@ -17,27 +19,56 @@ constexpr int kRows = 250;
 constexpr int kVertices = kColumns * kRows;
 constexpr int kInfluences = 100;
 
-// The path of a scene file with one skinned mesh "sheet", five of its hundred joints at each
+// The path of a scene file with one skinned mesh "sheet", eight of its hundred joints at each
 // vertex. Made once per run, and removed with it. The scene that is open is replaced.
 const std::string &sceneFile();
 
 // Opens it and selects the mesh.
 void openScene();
 
-// The mesh's shape, its skin cluster, and a component of all its vertices.
-struct Skin {
-    MDagPath shape;
-    MObject skinCluster;
-    MObject vertices;
-};
-Skin skin();
+// Gives each vertex of the mesh weights of up to eight joints anywhere, so that none of its
+// neighbours has the same: the worst that smoothing meets.
+void scatterWeights();
+
+// One dense reading of all weights from the skin cluster: what an operation on the whole mesh is
+// measured against. The quickest of three, so that memory and caches are warm.
+double secondsToReadWeights();
 
 // Loads the plug-in, opens its window and gives its model.
 QAbstractItemModel &editorModel();
 // Loads what is selected into the table.
 void loadTable(QAbstractItemModel &model);
+// Selects these cells in the window, and no others.
+void selectCells(const QAbstractItemModel &model, const QItemSelection &cells);
 
 // Runs MEL; ends the program if it fails: no figure would mean anything.
 void mel(const std::string &script);
+[[noreturn]] void fail(const std::string &what);
+
+// Calls a slot of the model with what Q_ARG makes.
+template <typename... Arguments>
+void call(QAbstractItemModel &model, const char *slot, Arguments... arguments)
+{
+    if (!QMetaObject::invokeMethod(&model, slot, arguments...))
+        fail(slot);
+}
+
+template <typename Function>
+double secondsOf(Function function)
+{
+    const auto start = std::chrono::steady_clock::now();
+    function();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+// The quickest of several, so that a pause of the machine does not count.
+template <typename Function>
+double quickestOf(int times, Function function)
+{
+    double quickest = std::numeric_limits<double>::max();
+    for (int i = 0; i < times; ++i)
+        quickest = std::min(quickest, secondsOf(function));
+    return quickest;
+}
 
 } // namespace rigging

@@ -2,21 +2,12 @@
 // What riggers wait for: opening a scene, loading a mesh into the table, scrolling. Figures that
 // matter are ratios within one run, printed as counters, beside the goal that they should stay
 // below.
-#include <algorithm>
-#include <chrono>
-#include <limits>
 #include <sstream>
 
-#include <QAbstractItemModel>
-#include <QApplication>
 #include <QFileInfo>
 #include <QString>
 
 #include <benchmark/benchmark.h>
-
-#include <maya/MDoubleArray.h>
-#include <maya/MFnSkinCluster.h>
-#include <maya/MLibrary.h>
 
 #include "riggingScene.h"
 
@@ -24,14 +15,6 @@ namespace
 {
 
 const double kMegabyte = 1024.0 * 1024.0;
-
-template <typename Function>
-double secondsOf(Function function)
-{
-    const auto start = std::chrono::steady_clock::now();
-    function();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
 
 void openSceneFile(benchmark::State &state)
 {
@@ -50,18 +33,11 @@ void loadIntoTable(benchmark::State &state)
 {
     QAbstractItemModel &model = rigging::editorModel();
     rigging::openScene();
-    const rigging::Skin skin = rigging::skin();
     double loading = 0.0;
     double reading = 0.0;
     for (auto _ : state) {
-        const double seconds = secondsOf([&] { rigging::loadTable(model); });
-        reading += secondsOf([&] {
-            MDoubleArray weights;
-            unsigned int influences = 0;
-            MFnSkinCluster(skin.skinCluster)
-                .getWeights(skin.shape, skin.vertices, weights, influences);
-            benchmark::DoNotOptimize(weights[0]);
-        });
+        const double seconds = rigging::secondsOf([&] { rigging::loadTable(model); });
+        reading += rigging::secondsToReadWeights();
         loading += seconds;
         state.SetIterationTime(seconds);
     }
@@ -90,13 +66,10 @@ void readScreenful(const QAbstractItemModel &model, int firstRow)
     }
 }
 
-// The quickest of several pages, so that a pause of the machine does not count.
 double secondsPerScreenful(const QAbstractItemModel &model)
 {
-    double quickest = std::numeric_limits<double>::max();
-    for (int page = 0; page < 100; ++page)
-        quickest = std::min(quickest, secondsOf([&] { readScreenful(model, 1 + page * 60); }));
-    return quickest;
+    int page = 0;
+    return rigging::quickestOf(100, [&] { readScreenful(model, 1 + page++ * 60); });
 }
 
 // One cell of each of the first `count` vertices.
@@ -130,16 +103,3 @@ void showCellsBesideLocks(benchmark::State &state)
 BENCHMARK(showCellsBesideLocks)->UseManualTime()->Iterations(5)->Unit(benchmark::kMicrosecond);
 
 } // namespace
-
-int main(int argumentCount, char **arguments)
-{
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argumentCount, arguments);
-    benchmark::Initialize(&argumentCount, arguments);
-    if (!MLibrary::initialize(false, arguments[0]))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    MLibrary::cleanup(0, false);
-    return 0;
-}
