@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <random>
 
 #include <QItemSelectionModel>
@@ -118,6 +119,11 @@ protected:
         const QModelIndex first = view_->selectionModel()->selectedIndexes().first();
         typeIntoSelection(first.row(), first.column(), texts[pick(int(std::size(texts)))]);
     }
+    void smoothSomeVertices()
+    {
+        selectSomeCells();
+        call("applySmoothSkinWeights", pickWeight() * 0.3, 1 + pick(3));
+    }
 
     // The name of the step that was taken.
     std::string step()
@@ -128,12 +134,20 @@ protected:
             stepFunction take;
         };
         static const namedStep steps[] = {
-            {"type", &randomWalk::typeSomething},     {"type", &randomWalk::typeSomething},
-            {"drag", &randomWalk::dragSomeCells},     {"drag column", &randomWalk::dragSomeColumn},
-            {"limit", &randomWalk::limitSomething},   {"flood", &randomWalk::floodSomeColumn},
-            {"round", &randomWalk::roundAll},         {"lock", &randomWalk::lockSomething},
-            {"unlock", &randomWalk::unlockSomething}, {"undo", &randomWalk::undoSteps},
-            {"redo", &randomWalk::redoSteps},
+            {"type", &randomWalk::typeSomething},
+            {"type", &randomWalk::typeSomething},
+            {"drag", &randomWalk::dragSomeCells},
+            {"drag column", &randomWalk::dragSomeColumn},
+            {"limit", &randomWalk::limitSomething},
+            {"flood", &randomWalk::floodSomeColumn},
+            {"smooth all", &randomWalk::smoothAll},
+            {"smooth vertices", &randomWalk::smoothSomeVertices},
+            {"paint smooth", &randomWalk::paintSmoothSomething},
+            {"round", &randomWalk::roundAll},
+            {"lock", &randomWalk::lockSomething},
+            {"unlock", &randomWalk::unlockSomething},
+            {"undo", &randomWalk::undoSteps},
+            {"undo and redo", &randomWalk::redoSteps},
         };
         const namedStep &chosen = steps[pick(int(std::size(steps)))];
         (this->*chosen.take)();
@@ -161,6 +175,19 @@ protected:
         selectColumn(pick(model_->columnCount()));
         call("replaceValue", pickWeight());
     }
+    void smoothAll()
+    {
+        view_->clearSelection();
+        call("applySmoothSkinWeights", pickWeight() * 0.3, 1 + pick(3));
+    }
+    void paintSmoothSomething()
+    {
+        if (pick(2) == 0)
+            selectColumn(pick(model_->columnCount()));
+        else
+            selectSomeCells();
+        call("applySkinPaintSmooth", pickWeight());
+    }
     void roundAll() { call("applyPrecision"); }
     void lockSomething()
     {
@@ -180,6 +207,7 @@ protected:
     }
     void redoSteps()
     {
+        undoSteps();
         for (int i = pick(4); i > 0 && melString("undoInfo -q -redoName") != ""; --i)
             mel("redo");
     }
@@ -261,6 +289,7 @@ TEST_F(randomWalk, keepsWeightsTableAndUndoSound)
     const unsigned kSeed = 20241103;
     const int kWalks = 12;
     const int kSteps = 60;
+    std::map<std::string, int> changes; // how often each kind of step changed weights
     for (int w = 0; w < kWalks; ++w) {
         makeScene(kSeed + unsigned(w));
         const tableWeights start = weightsInScene();
@@ -272,6 +301,7 @@ TEST_F(randomWalk, keepsWeightsTableAndUndoSound)
             const std::string what = "seed " + std::to_string(kSeed + unsigned(w)) + ", step " +
                                      std::to_string(s) + ", " + name;
             const tableWeights after = weightsInScene();
+            changes[name] += after == before ? 0 : 1;
             expectWeights(after, what);
             expectTable(after, what);
             expectLocked(name, locked, before, after, what);
@@ -290,4 +320,7 @@ TEST_F(randomWalk, keepsWeightsTableAndUndoSound)
         takeErrors();
         infos_.take();
     }
+    for (const char *name : {"type", "drag", "drag column", "limit", "flood", "smooth all",
+                             "smooth vertices", "paint smooth", "round", "undo", "undo and redo"})
+        EXPECT_GT(changes[name], 5) << name;
 }
