@@ -69,6 +69,7 @@ void weightTableModel::applySmoothSkinWeights(double value, int numIter)
 QVector<int> weightTableModel::smoothWholeMeshes(const QString &value, int iterations)
 {
     const QVector<int> first = firstWithSkinCluster(weights_.skinClusters);
+    const editAction all(trail_);
     for (int shape = 0; shape < first.size(); ++shape) {
         if (first.at(shape) != shape)
             continue;
@@ -78,7 +79,7 @@ QVector<int> weightTableModel::smoothWholeMeshes(const QString &value, int itera
         }
         handOver_.smoothedShape = shape;
         handOver_.smoothingScript = smoothingOf(weights_, shape, value, iterations);
-        MGlobal::executeCommand("korvexCmd -smoothSkinWeights", true, true);
+        runEdit("-smoothSkinWeights");
     }
     return allVertexRows();
 }
@@ -99,7 +100,7 @@ QVector<int> weightTableModel::smoothSelectedRows(const QString &value, int iter
     handOver_.smoothedShape = -1;
     handOver_.smoothingScript =
         smoothingOfVertices(vertices, smoothingOf(weights_, shape, value, iterations));
-    MGlobal::executeCommand("korvexCmd -smoothSkinWeights", true, true);
+    runEdit("-smoothSkinWeights");
     return chosen.rows;
 }
 
@@ -120,7 +121,7 @@ void weightTableModel::applySkinPaintSmooth(double value)
     handOver_.operationColumn = chosen.column;
     handOver_.paintedRows = chosen.rows;
     handOver_.paintOpacity = value;
-    MGlobal::executeCommand("korvexCmd -skinPaintSmooth", true, true);
+    runEdit("-skinPaintSmooth");
 
     refreshRowsEditedAt(chosen.rows, -1);
     showFilteredColumns();
