@@ -7,6 +7,7 @@
 #include "commands/replaceButtonCmd.h"
 #include "commands/roundButtonCmd.h"
 #include "commands/setCellDataCmd.h"
+#include "commands/smoothCmd.h"
 
 operationCommands::operationCommands(korvexWindow *window, weightTableModel *model)
 {
@@ -16,6 +17,7 @@ operationCommands::operationCommands(korvexWindow *window, weightTableModel *mod
     commands_.emplace_back(new dragSliderCmd(window, model));
     commands_.emplace_back(new dragSliderColCmd(window, model));
     commands_.emplace_back(new setCellDataCmd(window, model));
+    commands_.emplace_back(new smoothCmd(window, model));
 }
 
 operationCommands::~operationCommands()

@@ -14,6 +14,7 @@
 #include "commands/replaceButtonCmd.h"
 #include "commands/roundButtonCmd.h"
 #include "commands/setCellDataCmd.h"
+#include "commands/smoothCmd.h"
 #include "edit/preparedScene.h"
 #include "model/messages.h"
 #include "plugin/processState.h"
@@ -95,6 +96,12 @@ TEST_F(operationCommand, writesTakesBackAndWritesAgain)
              model_.setData(model_.index(1, 1), "0");
          },
          "0.7143 0 0.2857; 0.25 0.25 0.5; 0.3334 0.3333 0.3333; 1 0 0"},
+        {"smoothCmd", make<smoothCmd>,
+         [this] {
+             select(1, 0, 1, 0);
+             model_.applySkinPaintSmooth(1);
+         },
+         "0.2917 0.425 0.2833; 0.25 0.25 0.5; 0.3334 0.3333 0.3333; 1 0 0"},
     };
     for (const auto &c : cases) {
         autoUpdate = true;

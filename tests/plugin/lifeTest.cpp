@@ -18,6 +18,16 @@ TEST_F(life, hasOneWindowHoweverOftenItIsAskedFor)
     EXPECT_EQ(window_->windowTitle(), "Korvex");
 }
 
+TEST_F(life, putsNothingButItsCommandOnTheUndoQueue)
+{
+    delete window_;
+    mel("flushUndo");
+    mel("korvexCmd");
+    EXPECT_EQ(melString("undoInfo -q") + melString("undoInfo -q -undoName"), "1korvexCmd");
+    delete windows().front();
+    EXPECT_EQ(melString("undoInfo -q"), "1");
+}
+
 TEST_F(life, survivesBeingLoadedTwice)
 {
     makeSkin("body", {"hip"}, {{1}, {1}, {1}, {1}});
