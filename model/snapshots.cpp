@@ -62,6 +62,12 @@ void weightTableModel::undoLoad()
     qSwap(weights_, weightsBeforeLoad_);
     forgetSnapshots();
     endResetModel();
+    if (weights_.rows.isEmpty())
+        return;
+    // Edits may have come since they were read.
+    refreshAllRows();
+    setUpColumn();
+    announceAllRows();
 }
 
 // They are of another table's shape.

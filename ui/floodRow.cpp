@@ -30,6 +30,11 @@ QSlider *createSlider(const floodRowDescription &description)
     return slider;
 }
 
+QString settingText(const floodRow &row, int step, int digits)
+{
+    return fixedText(valueAt(step, row.scale), row.scale == 1 ? 0 : digits);
+}
+
 } // namespace
 
 floodRow createFloodRow(const floodRowDescription &description)
@@ -78,10 +83,23 @@ void writeSliderIntoEdit(floodRow &row, int digits)
     if (shown.isValid)
         row.storedStep = lastStepBefore(shown.value, row.scale);
     // The position is ahead of the value while Qt tells of a step by key, wheel or click.
-    const double value = valueAt(row.slider->sliderPosition(), row.scale);
-    const QString text = fixedText(value, row.scale == 1 ? 0 : digits);
+    const QString text = settingText(row, row.slider->sliderPosition(), digits);
     if (row.edit->text() == text)
         return;
     row.edit->selectAll();
     row.edit->insert(text);
+}
+
+void showPreviousSetting(floodRow &row, int digits)
+{
+    row.newerText = row.edit->text();
+    row.edit->setText(settingText(row, row.storedStep, digits));
+    row.slider->setValue(row.storedStep);
+}
+
+// The slider's step is stored again.
+void showNewerSetting(floodRow &row)
+{
+    row.edit->setText(row.newerText);
+    moveSliderToEdit(row);
 }

@@ -3,6 +3,8 @@
 // way to fill the edit. The one follows the other when the user has finished with it.
 #pragma once
 
+#include <QString>
+
 class QHBoxLayout;
 class QLabel;
 class QLineEdit;
@@ -15,6 +17,7 @@ struct floodRow {
     int scale = 1; // slider steps per unit; 1: the setting is a count and has no decimal places
     // The step that the row stood at before the user's last action on it.
     int storedStep = 0;
+    QString newerText; // of the edit, when that was put back
 };
 
 struct floodRowDescription {
@@ -36,3 +39,7 @@ void moveSliderToEdit(floodRow &row);
 
 // The user has moved the slider. The edit shows its value with so many decimal places.
 void writeSliderIntoEdit(floodRow &row, int digits);
+
+// What the row said before the user's last action on it, and what it said after that.
+void showPreviousSetting(floodRow &row, int digits);
+void showNewerSetting(floodRow &row);

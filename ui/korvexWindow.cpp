@@ -31,6 +31,8 @@ korvexWindow::korvexWindow(QWidget *parent) : QMainWindow(parent)
     setObjectName(QLatin1String("korvexWindow"));
     setWindowTitle(QLatin1String("Korvex"));
     setGeometry(200, 200, 500, 700);
+    watchKeys();
+    buildUndoTable();
     commands_.reset(new operationCommands(this, model_));
 }
 
@@ -38,13 +40,22 @@ korvexWindow::~korvexWindow() = default;
 
 void korvexWindow::acted(QWidget *control)
 {
-    lastControl_ = control;
+    keyboardUndo_.acted(control);
 }
 
 bool korvexWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == tableView_ && event->type() == QEvent::KeyPress && tableView_->hasFocus() &&
-        typeIntoTable(*static_cast<QKeyEvent *>(event)))
+    const bool isPress = event->type() == QEvent::KeyPress;
+    if (!isPress && event->type() != QEvent::ShortcutOverride)
+        return QMainWindow::eventFilter(watched, event);
+    QKeyEvent &key = *static_cast<QKeyEvent *>(event);
+    if (!isPress && keyboardUndo_.isAboutToHandle(key)) {
+        key.accept(); // else Maya's own shortcut takes it, and no press comes
+        return true;
+    }
+    if (isPress && keyboardUndo_.handle(key))
+        return true;
+    if (isPress && watched == tableView_ && tableView_->hasFocus() && typeIntoTable(key))
         return true;
     return QMainWindow::eventFilter(watched, event);
 }
@@ -54,9 +65,14 @@ bool korvexWindow::typeIntoTable(QKeyEvent &key)
 {
     if (!beginsTyping(key) || !tableView_->selectionModel()->hasSelection())
         return false;
-    if (typeIntoSelection(key, *tableView_, *model_))
-        acted(tableView_);
+    typeIntoSelection(key, *tableView_, *model_);
     return true;
+}
+
+void korvexWindow::tableEdited()
+{
+    alignValueRow();
+    acted(tableView_);
 }
 
 void korvexWindow::tableCellSelected(const QModelIndex &index)

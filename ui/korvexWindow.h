@@ -10,11 +10,11 @@
 #include <QItemSelection>
 #include <QMainWindow>
 #include <QModelIndex>
-#include <QPointer>
 
 #include <memory>
 
 #include "ui/floodRow.h"
+#include "ui/keyboardUndo.h"
 #include "ui/weightScale.h"
 
 class QComboBox;
@@ -41,7 +41,7 @@ public:
     // The window keeps it.
     weightTableModel *model() const { return model_; }
 
-    // QObject. Keys typed over the table's selected cells.
+    // QObject. Ctrl+Z and Ctrl+Y, and keys typed over the table's selected cells.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 public slots:
@@ -87,6 +87,9 @@ public slots:
     // The row begins anew with what is selected, for which an empty selection is fine.
     void alignValueRow();
 
+    // The user has confirmed an editor of the table.
+    void tableEdited();
+
     // What follows a click on a cell, a change of the selected cells, a click on a header.
     void tableCellSelected(const QModelIndex &index);
     void tableSelectionChanged(const QItemSelection &selected, const QItemSelection &deselected);
@@ -130,7 +133,17 @@ private:
     // Every control that has acted comes by here, afterwards.
     void acted(QWidget *control);
 
+    // undoSteps.cpp
+    void watchKeys();
+    void buildUndoTable();
+    void addFloodRowsToUndo();
+    void addWeightsToUndo();
+    void showMaximum(int maximum);
+    void showPrecision(int digits);
+    void checkMode(bool isAbsolute);
+
     bool typeIntoTable(QKeyEvent &key);
+    bool takePrecision(int digits);
     bool setModelPrecision(int digits);
 
     void enableFloodRows(int operation);
@@ -151,17 +164,19 @@ private:
     weightColumnHeaderView *columnHeader_ = nullptr;
     QMenu *contextMenu_ = nullptr; // made when it is first asked for
 
-    // The control that acted last. Beside each control stands what it was before it last acted.
-    QPointer<QWidget> lastControl_;
+    // Beside each control stands what it was before it last acted.
+    keyboardUndo keyboardUndo_;
 
     QLineEdit *maxInfluenceEdit_ = nullptr;
     QPushButton *applyInfluenceButton_ = nullptr;
     int lastMaxInfluence_ = 0;
+    int newMaxInfluence_ = 0;
 
     QLineEdit *precisionEdit_ = nullptr;
     QPushButton *roundButton_ = nullptr;
     int precisionDigits_ = 3; // also the exponent of the value slider's scale
     int lastPrecisionDigits_ = 3;
+    int newPrecisionDigits_ = 3;
 
     floodRow floodRows_[kFloodRowCount];
     QComboBox *operationBox_ = nullptr;

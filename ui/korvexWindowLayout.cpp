@@ -94,7 +94,7 @@ void korvexWindow::connectModel()
             SLOT(updateSliderValue(double, double, double)));
     connect(model_, SIGNAL(modelReset()), this, SLOT(alignValueRow()));
     // After the view, which gives the text to the model.
-    connect(tableView_->itemDelegate(), SIGNAL(commitData(QWidget *)), this, SLOT(alignValueRow()));
+    connect(tableView_->itemDelegate(), SIGNAL(commitData(QWidget *)), this, SLOT(tableEdited()));
 }
 
 void korvexWindow::buildOptionsMenu()

@@ -48,6 +48,7 @@ void korvexWindow::setMaxValue()
         return;
     }
     lastMaxInfluence_ = model_->maxInfluences();
+    newMaxInfluence_ = maximum;
     model_->setMaxValue(maximum);
     acted(maxInfluenceEdit_);
 }

@@ -48,18 +48,27 @@ void korvexWindow::setPrecisionEdit()
         return;
     }
     const int before = model_->displayPrecision();
-    if (!setModelPrecision(digits))
+    if (!takePrecision(digits))
         return;
     lastPrecisionDigits_ = before;
+    newPrecisionDigits_ = digits;
+    acted(precisionEdit_);
+}
+
+// False if the model has refused, and said why.
+bool korvexWindow::takePrecision(int digits)
+{
+    if (!setModelPrecision(digits))
+        return false;
     precisionDigits_ = digits;
     columnHeader_->setDefaultSectionSize(jointColumnWidth(digits));
     // Qt 4 leaves the columns that there are as wide as they were.
     model_->setUpColumn();
     fitValueSlider();
-    acted(precisionEdit_);
+    return true;
 }
 
-// False if the model has refused, and said why. A table that locks keep from being rounded anew
+// The same for the model alone. A table that locks keep from being rounded anew
 // keeps its snapshots too: they belong to the last change that was made.
 bool korvexWindow::setModelPrecision(int digits)
 {
