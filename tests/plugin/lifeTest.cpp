@@ -2,6 +2,8 @@
 //
 // The plug-in's coming and going.
 
+#include <QPushButton>
+
 #include "model/messages.h"
 #include "support/editorScene.h"
 
@@ -69,4 +71,31 @@ TEST_F(life, endsWithAWindowThatSomebodyElseDeletes)
     mel("select body; korvexCmd");
     ASSERT_EQ(windows().size(), 1u);
     EXPECT_NE(windows().front()->findChild<QTableView *>(), nullptr);
+}
+
+// What is left behind, the sanitizers see.
+TEST_F(life, comesAndGoesAHundredTimes)
+{
+    makeSkin("body", {"hip", "knee"}, {{0.5, 0.5}, {1, 0}, {0, 1}, {1, 0}});
+    for (int i = 0; i < 100; ++i) {
+        if (i % 3 == 0)
+            delete windows().front();
+        else if (i % 3 == 1)
+            windows().front()->close();
+        mel("korvexCmd; select body");
+        ASSERT_EQ(windows().size(), 1u) << i;
+        window_ = windows().front();
+        QPushButton *load = window_->findChild<QPushButton *>("LoadComponent");
+        ASSERT_NE(load, nullptr);
+        load->click();
+        view_ = window_->findChild<QTableView *>();
+        view_->selectAll();
+        EXPECT_TRUE(view_->model()->setData(view_->model()->index(1, 0), "*=0.5"));
+        emit view_->customContextMenuRequested(QPoint(5, 5));
+        window_->grab();
+        if (i % 4 == 0)
+            mel("flushUndo; unloadPlugin korvex; loadPlugin \"" KORVEX_PLUGIN_DIR "/korvex.so\"");
+        mel("korvexCmd");
+    }
+    mel("flushUndo");
 }
