@@ -62,8 +62,7 @@ bool korvexWindow::takePrecision(int digits)
         return false;
     precisionDigits_ = digits;
     columnHeader_->setDefaultSectionSize(jointColumnWidth(digits));
-    // Qt 4 leaves the columns that there are as wide as they were.
-    model_->setUpColumn();
+    model_->setUpColumn(); // gives each column that width
     fitValueSlider();
     return true;
 }

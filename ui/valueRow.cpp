@@ -105,20 +105,16 @@ void korvexWindow::fitValueSlider()
 
 void korvexWindow::fitValueSliderRange()
 {
-    const bool wereBlocked = valueSlider_->blockSignals(true);
     const sliderRange range = valueSliderRange(precisionDigits_, isAbsolute_);
     valueSlider_->setRange(range.minimum, range.maximum);
     valueSlider_->setTickInterval(range.maximum);
     valueSlider_->setPageStep(range.maximum / kPagesPerUnit);
-    valueSlider_->blockSignals(wereBlocked);
 }
 
-// Without telling the model: nobody has moved the slider.
+// The slider first: it writes its step into the edit.
 void korvexWindow::showInValueRow(int step, const QString &text)
 {
-    const bool wereBlocked = valueSlider_->blockSignals(true);
     valueSlider_->setValue(step);
-    valueSlider_->blockSignals(wereBlocked);
     valueEdit_->setText(text);
 }
 
