@@ -17,7 +17,7 @@ class QWidget;
 
 const int kButtonWidth = 140;
 
-// A signal of a control and the slot of the window that it starts.
+// A signal of a control and the slot that it starts.
 struct controlConnection {
     QObject *sender;
     const char *signal;
@@ -25,10 +25,10 @@ struct controlConnection {
 };
 
 template <std::size_t count>
-void connectAll(const controlConnection (&connections)[count], QObject *window)
+void connectAll(const controlConnection (&connections)[count], QObject *receiver)
 {
     for (const controlConnection &each : connections)
-        QObject::connect(each.sender, each.signal, window, each.slot);
+        QObject::connect(each.sender, each.signal, receiver, each.slot);
 }
 
 enum class buttonKind { push, check };
