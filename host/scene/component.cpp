@@ -43,6 +43,11 @@ std::vector<std::string> Component::ranges() const
 
 void Component::merge(const Component &other)
 {
+    // Vertices that are named one by one mostly ascend.
+    if (elements.empty() || other.elements.empty() || elements.back() < other.elements.front()) {
+        elements.insert(elements.end(), other.elements.begin(), other.elements.end());
+        return;
+    }
     std::vector<int> all;
     all.reserve(elements.size() + other.elements.size());
     std::set_union(elements.begin(), elements.end(), other.elements.begin(), other.elements.end(),
@@ -52,10 +57,10 @@ void Component::merge(const Component &other)
 
 void Component::remove(const Component &other)
 {
-    std::vector<int> rest;
-    std::set_difference(elements.begin(), elements.end(), other.elements.begin(),
-                        other.elements.end(), std::back_inserter(rest));
-    elements.swap(rest);
+    const auto isTaken = [&other](int element) {
+        return std::binary_search(other.elements.begin(), other.elements.end(), element);
+    };
+    elements.erase(std::remove_if(elements.begin(), elements.end(), isTaken), elements.end());
 }
 
 void Component::normalize()

@@ -96,15 +96,20 @@ void adjustOrdered(SelectionList &ordered, const std::vector<SelectionItem> &ite
     }
     if (adjustment == Session::Adjustment::replace)
         ordered.clear();
+    SelectionList merged;
+    for (const SelectionItem &item : ordered.items())
+        merged.merge(item);
     for (SelectionItem item : items) {
-        for (const SelectionItem &existing : ordered.items()) {
+        for (const SelectionItem &existing : merged.items()) {
             if (item.component && existing.component && existing.sameObject(item) &&
                 existing.component->kind == item.component->kind)
                 item.component->remove(*existing.component);
         }
-        const bool isNew = item.component ? !item.component->elements.empty() : !ordered.has(item);
-        if (isNew)
-            ordered.append(item);
+        const bool isNew = item.component ? !item.component->elements.empty() : !merged.has(item);
+        if (!isNew)
+            continue;
+        merged.merge(item);
+        ordered.append(std::move(item));
     }
 }
 
