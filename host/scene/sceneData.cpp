@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <utility>
 
 #include "scene/plugAccess.h"
 #include "scene/scene.h"
@@ -362,6 +363,12 @@ void Scene::setWeightRows(const NodePtr &skinCluster, const std::vector<std::siz
         for (std::size_t i = 0; i < vertices.size(); ++i)
             skinCluster->weights_->setRow(vertices[i], rows[i]);
     });
+}
+
+void Scene::setWeights(const NodePtr &skinCluster, skin::WeightStore weights)
+{
+    SceneEdit::run(*this, skinCluster->plug("weightList"),
+                   [&] { *skinCluster->weights_ = std::move(weights); });
 }
 
 skin::WeightStore &Scene::editWeights(const NodePtr &skinCluster)

@@ -2,12 +2,14 @@
 
 #include "skin/smoothing.h"
 
-#include "skin/rowMean.h"
-#include "skin/writeRule.h"
+#include "skin/rankedRows.h"
+#include "skin/rowBesideMean.h"
+#include "skin/unlockedWeights.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 namespace host::skin
 {
@@ -18,197 +20,165 @@ namespace
 // Differences that are rounding errors of a mean, not a jump.
 constexpr double kRoundingNoise = 1e-14;
 
-// The locks by logical influence, and what is done to a row under them.
-class LockedRow
-{
-public:
-    LockedRow(const std::vector<bool> &locked, const SmoothSettings &settings)
-        : locked_(locked), settings_(settings)
-    {
-    }
-
-    // The largest difference between two rows in an unlocked influence.
-    double jump(const RowView &row, const RowView &mean) const;
-
-    // The row with the mean in its unlocked influences, as the settings want it; false if the mean
-    // offers nothing to put in their place. `result` is overwritten in both cases.
-    bool replaceUnlocked(const RowView &row, const RowView &mean, std::vector<Entry> &result) const;
-
-private:
-    bool isLocked(const Entry &entry) const
-    {
-        return entry.influence < locked_.size() && locked_[entry.influence];
-    }
-    bool scaleUnlocked(std::vector<Entry> &row) const;
-    void keepLargest(std::vector<Entry> &row) const;
-
-    const std::vector<bool> &locked_;
-    const SmoothSettings &settings_;
-};
-
-double LockedRow::jump(const RowView &row, const RowView &mean) const
-{
-    double largest = 0.0;
-    forEachInfluence(row, mean, [&](const Entry &held, const Entry &average) {
-        if (!isLocked(held))
-            largest = std::max(largest, std::fabs(held.weight - average.weight));
-    });
-    return largest;
-}
-
-bool LockedRow::replaceUnlocked(const RowView &row, const RowView &mean,
-                                std::vector<Entry> &result) const
-{
-    result.clear();
-    forEachInfluence(row, mean, [&](const Entry &held, const Entry &average) {
-        const Entry &taken = isLocked(held) ? held : average;
-        if (taken.weight != 0.0)
-            result.push_back(taken);
-    });
-    if (settings_.normalize && !scaleUnlocked(result))
-        return false;
-    if (settings_.obeyMax && settings_.maxInfluences > 0)
-        keepLargest(result);
-    return true;
-}
-
-// Scales the unlocked weights to what the locked ones leave of 1; negative ones become 0.
-bool LockedRow::scaleUnlocked(std::vector<Entry> &row) const
-{
-    double room = 1.0;
-    double above = 0.0;
-    for (const Entry &entry : row) {
-        if (isLocked(entry))
-            room -= entry.weight;
-        else
-            above += std::max(0.0, entry.weight);
-    }
-    const double factor = room >= kWeightEpsilon ? room / above : 0.0;
-    if (!std::isfinite(factor))
-        return false;
-    for (Entry &entry : row) {
-        if (!isLocked(entry))
-            entry.weight = std::max(0.0, entry.weight) * factor;
-    }
-    return true;
-}
-
-// Drops the smallest unlocked weights (of equals the higher index) until the row meets the limit or
-// one unlocked weight is left, which has to hold the rest.
-void LockedRow::keepLargest(std::vector<Entry> &row) const
-{
-    const auto isAboveZero = [](const Entry &entry) { return entry.weight > 0.0; };
-    auto excess = std::count_if(row.begin(), row.end(), isAboveZero) -
-                  static_cast<std::ptrdiff_t>(settings_.maxInfluences);
-    if (excess <= 0)
-        return;
-    std::vector<Entry *> unlocked;
-    for (Entry &entry : row) {
-        if (isAboveZero(entry) && !isLocked(entry))
-            unlocked.push_back(&entry);
-    }
-    std::sort(unlocked.begin(), unlocked.end(), [](const Entry *a, const Entry *b) {
-        return a->weight != b->weight ? a->weight < b->weight : a->influence > b->influence;
-    });
-    excess = std::min(excess, static_cast<std::ptrdiff_t>(unlocked.size()) - 1);
-    for (std::ptrdiff_t i = 0; i < excess; ++i)
-        unlocked[static_cast<std::size_t>(i)]->weight = 0.0;
-    if (settings_.normalize)
-        scaleUnlocked(row);
-}
-
 // One command: the rounds, and what they share.
 class Smoother
 {
 public:
-    Smoother(WeightStore &weights, const Adjacency &adjacency, const std::vector<bool> &locked,
-             const SmoothSettings &settings)
-        : weights_(weights), adjacency_(adjacency), settings_(settings), row_(locked, settings),
-          isBad_(adjacency.vertexCount(), false), isChanged_(adjacency.vertexCount(), false)
+    // `vertices` have rows, and so have those of `involved`: them and all their neighbours.
+    Smoother(const WeightStore &weights, const Adjacency &adjacency,
+             const std::vector<std::uint32_t> &vertices, std::vector<std::uint32_t> involved,
+             const std::vector<bool> &locked, const SmoothSettings &settings)
+        : adjacency_(adjacency), vertices_(vertices), tolerance_(settings.tolerance),
+          rows_(weights, std::move(involved), adjacency.vertexCount()),
+          unlocked_(rows_.influences(), locked, settings), mean_(rows_.influences().size()),
+          averaged_(rows_.influences().size()), isBad_(adjacency.vertexCount(), 0),
+          isChanged_(adjacency.vertexCount(), 0)
     {
     }
 
     // Runs one round; false if no vertex is bad.
-    bool runRound(const std::vector<std::uint32_t> &vertices);
+    bool runRound();
 
-    std::vector<std::uint32_t> changedVertices() const;
+    // Puts what has changed into the store and returns its vertices.
+    std::vector<std::uint32_t> finish(WeightStore &weights) const;
 
 private:
-    std::vector<std::uint32_t> findBad(const std::vector<std::uint32_t> &vertices);
-    bool hasGoodNeighbour(std::uint32_t vertex) const;
-    void smooth(std::uint32_t vertex, const WeightStore &before, bool withBadNeighbours);
+    enum class Neighbours { all, good };
 
-    WeightStore &weights_;
+    void findBad();
+    void redoWithGoodNeighbours();
+    bool hasNeighbour(std::uint32_t vertex, bool isBad) const;
+    double average(std::uint32_t vertex, Neighbours neighbours);
+    RankedRows::NewRow settle(std::uint32_t vertex);
+
     const Adjacency &adjacency_;
-    const SmoothSettings &settings_;
-    LockedRow row_;
-    RowMean mean_;
-    std::vector<Entry> result_;
-    std::vector<bool> isBad_;
-    std::vector<bool> isChanged_;
+    const std::vector<std::uint32_t> &vertices_;
+    const double tolerance_;
+    RankedRows rows_; // as they were at the start of the round
+    UnlockedWeights unlocked_;
+    RowBesideMean mean_;
+    WorkRow averaged_;
+    std::vector<char> isBad_; // by vertex, as isChanged_
+    std::vector<char> isChanged_;
+    // What the bad vertices take, kept from when their jump was found: the means are the work.
+    // Where the neighbours offer nothing, count is kNothing.
+    std::vector<RankedRows::NewRow> newRows_;
+    std::vector<Entry> newEntries_;
+
+    static constexpr std::uint32_t kNothing = ~0u;
 };
 
-std::vector<std::uint32_t> Smoother::findBad(const std::vector<std::uint32_t> &vertices)
+// Makes averaged_ the vertex's row with the neighbours' mean in its unlocked influences. Returns
+// the largest difference in one of these; negative if no neighbour counts.
+double Smoother::average(std::uint32_t vertex, Neighbours neighbours)
 {
-    std::fill(isBad_.begin(), isBad_.end(), false);
-    std::vector<std::uint32_t> bad;
-    for (const std::uint32_t vertex : vertices) {
-        mean_.clear();
-        for (const std::uint32_t neighbour : adjacency_.of(vertex))
-            mean_.add(weights_, neighbour);
-        if (!weights_.hasRow(vertex) || mean_.rowCount() == 0)
-            continue;
-        const double jump = row_.jump(weights_.row(vertex), mean_.mean());
-        if (jump >= settings_.tolerance && jump > kRoundingNoise) {
-            bad.push_back(vertex);
-            isBad_[vertex] = true;
-        }
+    averaged_.clear();
+    for (const std::uint32_t neighbour : adjacency_.of(vertex)) {
+        if (rows_.hasRow(neighbour) && (neighbours == Neighbours::all || !isBad_[neighbour]))
+            mean_.add(rows_.row(neighbour));
     }
-    return bad;
+    if (mean_.rowCount() == 0)
+        return -1.0;
+    double jump = 0.0;
+    mean_.take(rows_.row(vertex), [&](std::uint32_t rank, double held, double mean) {
+        const double taken = unlocked_.isLocked(rank) ? held : mean;
+        jump = std::max(jump, std::fabs(held - taken));
+        averaged_.append({rank, taken}, taken != 0.0);
+    });
+    return jump;
 }
 
-bool Smoother::hasGoodNeighbour(std::uint32_t vertex) const
+// Settles averaged_ and appends it to newEntries_.
+RankedRows::NewRow Smoother::settle(std::uint32_t vertex)
+{
+    const auto first = static_cast<std::uint32_t>(newEntries_.size());
+    if (!unlocked_.settle(averaged_))
+        return {vertex, first, kNothing};
+    averaged_.keepIf([](const Entry &entry) { return entry.weight != 0.0; });
+    newEntries_.insert(newEntries_.end(), averaged_.begin(), averaged_.end());
+    return {vertex, first, static_cast<std::uint32_t>(newEntries_.size()) - first};
+}
+
+void Smoother::findBad()
+{
+    newRows_.clear();
+    newEntries_.clear();
+    for (const std::uint32_t vertex : vertices_) {
+        const double jump = average(vertex, Neighbours::all);
+        isBad_[vertex] = jump >= tolerance_ && jump > kRoundingNoise;
+        if (isBad_[vertex])
+            newRows_.push_back(settle(vertex));
+    }
+}
+
+bool Smoother::hasNeighbour(std::uint32_t vertex, bool isBad) const
 {
     const Adjacency::Range neighbours = adjacency_.of(vertex);
-    return std::any_of(neighbours.begin(), neighbours.end(), [this](std::uint32_t neighbour) {
-        return weights_.hasRow(neighbour) && !isBad_[neighbour];
+    return std::any_of(neighbours.begin(), neighbours.end(), [&](std::uint32_t neighbour) {
+        return rows_.hasRow(neighbour) && bool(isBad_[neighbour]) == isBad;
     });
 }
 
-bool Smoother::runRound(const std::vector<std::uint32_t> &vertices)
+// What was averaged with bad neighbours is averaged again without them.
+void Smoother::redoWithGoodNeighbours()
 {
-    const std::vector<std::uint32_t> bad = findBad(vertices);
-    const bool withBadNeighbours =
-        bad.size() == vertices.size() ||
-        std::none_of(bad.begin(), bad.end(),
-                     [this](std::uint32_t vertex) { return hasGoodNeighbour(vertex); });
-    const WeightStore before = weights_;
-    for (const std::uint32_t vertex : bad)
-        smooth(vertex, before, withBadNeighbours);
-    return !bad.empty();
-}
-
-void Smoother::smooth(std::uint32_t vertex, const WeightStore &before, bool withBadNeighbours)
-{
-    mean_.clear();
-    for (const std::uint32_t neighbour : adjacency_.of(vertex)) {
-        if (withBadNeighbours || !isBad_[neighbour])
-            mean_.add(before, neighbour);
+    for (RankedRows::NewRow &row : newRows_) {
+        if (!hasNeighbour(row.vertex, true))
+            continue;
+        row.count = kNothing;
+        if (average(row.vertex, Neighbours::good) >= 0.0)
+            row = settle(row.vertex);
     }
-    if (mean_.rowCount() == 0 || !row_.replaceUnlocked(before.row(vertex), mean_.mean(), result_))
-        return;
-    weights_.setRow(vertex, result_);
-    isChanged_[vertex] = true;
 }
 
-std::vector<std::uint32_t> Smoother::changedVertices() const
+bool Smoother::runRound()
+{
+    findBad();
+    const bool areBad = !newRows_.empty();
+    const bool hasGoodNeighbours =
+        newRows_.size() < vertices_.size() &&
+        std::any_of(newRows_.begin(), newRows_.end(), [this](const RankedRows::NewRow &row) {
+            return hasNeighbour(row.vertex, false);
+        });
+    if (hasGoodNeighbours)
+        redoWithGoodNeighbours();
+    newRows_.erase(
+        std::remove_if(newRows_.begin(), newRows_.end(),
+                       [](const RankedRows::NewRow &row) { return row.count == kNothing; }),
+        newRows_.end());
+    for (const RankedRows::NewRow &row : newRows_)
+        isChanged_[row.vertex] = 1;
+    rows_.replace(newRows_, newEntries_);
+    return areBad;
+}
+
+std::vector<std::uint32_t> Smoother::finish(WeightStore &weights) const
 {
     std::vector<std::uint32_t> changed;
-    for (std::size_t vertex = 0; vertex < isChanged_.size(); ++vertex) {
+    for (const std::uint32_t vertex : vertices_) {
         if (isChanged_[vertex])
-            changed.push_back(static_cast<std::uint32_t>(vertex));
+            changed.push_back(vertex);
     }
+    rows_.copyTo(weights, changed);
     return changed;
+}
+
+// The vertices and their neighbours, those that have rows; ascending.
+std::vector<std::uint32_t> withNeighbours(const std::vector<std::uint32_t> &vertices,
+                                          const WeightStore &weights, const Adjacency &adjacency)
+{
+    std::vector<char> isInvolved(adjacency.vertexCount(), 0);
+    for (const std::uint32_t vertex : vertices) {
+        isInvolved[vertex] = 1;
+        for (const std::uint32_t neighbour : adjacency.of(vertex))
+            isInvolved[neighbour] = 1;
+    }
+    std::vector<std::uint32_t> involved;
+    for (std::uint32_t vertex = 0; vertex < isInvolved.size(); ++vertex) {
+        if (isInvolved[vertex] && weights.hasRow(vertex))
+            involved.push_back(vertex);
+    }
+    return involved;
 }
 
 } // namespace
@@ -228,12 +198,13 @@ std::vector<std::uint32_t> smoothWeights(WeightStore &weights, const Adjacency &
     };
     smoothed.erase(std::remove_if(smoothed.begin(), smoothed.end(), isOutside), smoothed.end());
 
-    Smoother smoother(weights, adjacency, locked, settings);
+    Smoother smoother(weights, adjacency, smoothed, withNeighbours(smoothed, weights, adjacency),
+                      locked, settings);
     for (unsigned round = 0; round < settings.iterations; ++round) {
-        if (!smoother.runRound(smoothed))
+        if (!smoother.runRound())
             break;
     }
-    return smoother.changedVertices();
+    return smoother.finish(weights);
 }
 
 } // namespace host::skin

@@ -10,8 +10,8 @@
 //   a bad vertex takes, for the unlocked influences, the mean of its neighbours that are not bad,
 //   scaled to sum 1 with the locked ones; one among bad neighbours only waits for a later round
 //
-// Works on sparse rows; the cost is that of the weights that are stored. The paint tool's smooth is
-// in skin/paint.h.
+// Each mean is worked out once, on copies of the rows that take part: the cost is that of the
+// weights that are stored. The paint tool's smooth is in skin/paint.h.
 
 #pragma once
 

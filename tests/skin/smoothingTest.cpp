@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <numeric>
 
 using namespace host::skin;
@@ -103,6 +104,36 @@ TEST(smoothing, obeysTheLimitOfInfluences)
     WeightStore store = storeOf({"1", "0 1", "0 0 1", "0 0 1", "0 0 0 1"});
     smoothWeights(store, kCross, {0}, {}, {0.5, 1, true, 2});
     EXPECT_EQ(rowAsText(store, 0, 4), "0 0.333333 0.666667 0") << "of equals the lower index stays";
+}
+
+// A mean over 160 influences: as many as no machine word has bits, many of them equal.
+TEST(smoothing, findsTheLargestAmongManyInfluences)
+{
+    WeightStore store;
+    store.setRow(0, {{0, 1.0}});
+    std::vector<Entry> mean;
+    for (std::uint32_t i = 0; i < 160; ++i) {
+        mean.push_back({i * 1000, (i * 37 % 50 + 1) / 4.0});
+        store.setWeight(1 + i % 4, i * 1000, (i * 37 % 50 + 1));
+    }
+    for (const unsigned limit : {1u, 2u, 7u, 70u, 159u, 160u}) {
+        WeightStore smoothed = store;
+        smoothWeights(smoothed, kCross, {0}, {}, {0.5, 1, true, limit, false});
+        std::vector<Entry> largest = mean;
+        std::stable_sort(largest.begin(), largest.end(),
+                         [](const Entry &a, const Entry &b) { return a.weight > b.weight; });
+        largest.resize(limit);
+        WeightStore expected = store;
+        expected.setRow(0, largest);
+        EXPECT_EQ(smoothed, expected) << limit;
+    }
+}
+
+TEST(smoothing, theLimitDoesNotCountNegativeWeights)
+{
+    WeightStore store = storeOf({"1", "0 -1 0.5", "0 -1 0.25", "0 -1 0.25 2", "0 -1 0 2"});
+    smoothWeights(store, kCross, {0}, {}, {0.5, 1, true, 1, false});
+    EXPECT_EQ(rowAsText(store, 0, 4), "0 -1 0 1");
 }
 
 TEST(smoothing, ignoresVerticesWithoutRowsAndNeighbours)

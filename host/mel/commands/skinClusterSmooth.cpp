@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // skinCluster -edit -smoothWeights, and what it shares with the flood of the paint tool.
 #include <algorithm>
+#include <utility>
 
 #include "mel/commands/commandSupport.h"
 #include "mel/commands/skinClusterCommand.h"
@@ -89,18 +90,13 @@ void smoothSkinCluster(Context &context, const Arguments &arguments, const SkinC
     const std::vector<std::uint32_t> changed =
         skin::smoothWeights(weights, adjacency, vertices, logicalLocks(cluster), settings);
 
-    std::vector<std::size_t> rows(changed.begin(), changed.end());
-    std::vector<std::vector<skin::Entry>> entries;
-    entries.reserve(rows.size());
     SkinWriteResult result;
-    for (const std::size_t row : rows) {
-        const skin::RowView smoothed = weights.row(row);
-        entries.emplace_back(smoothed.begin(), smoothed.end());
-        if (settings.obeyMax && exceedsLimit(smoothed, settings.maxInfluences))
-            result.locksPreventedMax = true;
-    }
-    if (!rows.empty())
-        context.scene().setWeightRows(cluster.node(), rows, entries);
+    result.locksPreventedMax =
+        settings.obeyMax && std::any_of(changed.begin(), changed.end(), [&](std::uint32_t vertex) {
+            return exceedsLimit(weights.row(vertex), settings.maxInfluences);
+        });
+    if (!changed.empty())
+        context.scene().setWeights(cluster.node(), std::move(weights));
     showWarnings(context.session, result);
 }
 
