@@ -2,6 +2,8 @@
 //
 // A test for each task of the user guide, in its order.
 
+#include <cmath>
+
 #include "guide/guideScene.h"
 
 #include <QComboBox>
