@@ -23,17 +23,6 @@ void SmoothingScene::makeStrip(const std::string &mesh)
     makeSkin(mesh, {"hip", "knee", "ankle"}, rows);
 }
 
-void SmoothingScene::smooth(double tolerance, int rounds)
-{
-    EXPECT_TRUE(QMetaObject::invokeMethod(model_, "applySmoothSkinWeights",
-                                          Q_ARG(double, tolerance), Q_ARG(int, rounds)));
-}
-
-void SmoothingScene::paint(double opacity)
-{
-    EXPECT_TRUE(QMetaObject::invokeMethod(model_, "applySkinPaintSmooth", Q_ARG(double, opacity)));
-}
-
 std::string SmoothingScene::all(const std::string &mesh, int count)
 {
     std::string text;

@@ -14,8 +14,8 @@ protected:
     // for vertex 1, a peak of the knee between 0, 2 and 5.
     static void makeStrip(const std::string &mesh);
 
-    void smooth(double tolerance, int rounds);
-    void paint(double opacity);
+    void smooth(double tolerance, int rounds) { call("applySmoothSkinWeights", tolerance, rounds); }
+    void paint(double opacity) { call("applySkinPaintSmooth", opacity); }
 
     // All vertices: "1 0 0; 0 1 0; ...".
     static std::string all(const std::string &mesh = "body", int count = 8);
