@@ -3,8 +3,9 @@
 // other influences only.
 //
 // Deliberate: afterwards each of the joints is not held, whatever it was before. Pinned by the test
-// editCells.endsWithTheHeldJointsFree. Nothing of it is on the undo queue; a joint whose attribute
-// cannot be set is not held.
+// editCells.endsWithTheHeldJointsFree and, for the paint tool, by
+// paintSmooth.endsWithLockedJointsFreeInMaya. Nothing of it is on the undo queue; a joint whose
+// attribute cannot be set is not held.
 #pragma once
 
 #include <maya/MDagPathArray.h>
