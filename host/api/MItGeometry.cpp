@@ -3,41 +3,29 @@
 #include <maya/MItGeometry.h>
 
 #include "api/pointWalk.h"
-#include "api/status.h"
 
-using host::answer;
 using host::PointWalk;
-
-namespace
-{
-
-PointWalk *currentWalk(const std::unique_ptr<PointWalk> &walk, MStatus *status)
-{
-    PointWalk *current = walk && !walk->isDone() ? walk.get() : nullptr;
-    return answer(status, current ? MStatus::kSuccess : MStatus::kFailure, current);
-}
-
-} // namespace
 
 MItGeometry::MItGeometry(const MDagPath &dagPath, MStatus *ReturnStatus)
     : walk_(PointWalk::over(host::nodeOf(dagPath.node()), host::pathOf(dagPath), MObject()))
 {
-    host::report(ReturnStatus, walk_ ? MStatus::kSuccess : MStatus::kInvalidParameter);
+    host::reportWalk(walk_, ReturnStatus);
 }
 
 MItGeometry::MItGeometry(const MDagPath &dagPath, MObject &component, MStatus *ReturnStatus)
     : walk_(PointWalk::over(host::nodeOf(dagPath.node()), host::pathOf(dagPath), component))
 {
-    host::report(ReturnStatus, walk_ ? MStatus::kSuccess : MStatus::kInvalidParameter);
+    host::reportWalk(walk_, ReturnStatus);
 }
 
 MItGeometry::MItGeometry(MObject &dagObject, MStatus *ReturnStatus)
     : walk_(PointWalk::over(host::nodeOf(dagObject), nullptr, MObject()))
 {
-    host::report(ReturnStatus, walk_ ? MStatus::kSuccess : MStatus::kInvalidParameter);
+    host::reportWalk(walk_, ReturnStatus);
 }
 
 MItGeometry::~MItGeometry() = default;
+
 const char *MItGeometry::className()
 {
     return "MItGeometry";
@@ -45,51 +33,37 @@ const char *MItGeometry::className()
 
 bool MItGeometry::isDone(MStatus *ReturnStatus) const
 {
-    host::report(ReturnStatus, walk_ ? MStatus::kSuccess : MStatus::kFailure);
-    return !walk_ || walk_->isDone();
+    return host::isDone(walk_, ReturnStatus);
 }
 
 MStatus MItGeometry::next()
 {
-    MStatus status;
-    if (PointWalk *walk = currentWalk(walk_, &status))
-        walk->next();
-    return status;
+    return host::next(walk_);
 }
 
 MStatus MItGeometry::reset()
 {
-    if (!walk_)
-        return MStatus::kFailure;
-    walk_->reset();
-    return MStatus::kSuccess;
+    return host::reset(walk_);
 }
 
 MPoint MItGeometry::position(MSpace::Space space, MStatus *ReturnStatus) const
 {
-    MPoint point;
-    PointWalk *walk = currentWalk(walk_, ReturnStatus);
-    if (walk && !walk->position(space, point))
-        host::report(ReturnStatus, MStatus::kFailure);
-    return point;
+    return host::positionOf(walk_, space, ReturnStatus);
 }
 
 int MItGeometry::index(MStatus *ReturnStatus) const
 {
-    const PointWalk *walk = currentWalk(walk_, ReturnStatus);
-    return walk ? walk->vertex() : 0;
+    return host::vertexOf(walk_, ReturnStatus);
 }
 
 MObject MItGeometry::currentItem(MStatus *ReturnStatus) const
 {
-    const PointWalk *walk = currentWalk(walk_, ReturnStatus);
-    return walk ? walk->currentItem() : MObject();
+    return host::currentItem(walk_, ReturnStatus);
 }
 
 int MItGeometry::count(MStatus *ReturnStatus) const
 {
-    host::report(ReturnStatus, walk_ ? MStatus::kSuccess : MStatus::kFailure);
-    return walk_ ? static_cast<int>(walk_->count()) : 0;
+    return host::count(walk_, ReturnStatus);
 }
 
 int MItGeometry::exactCount(MStatus *ReturnStatus)

@@ -4,36 +4,23 @@
 #include <maya/MItMeshVertex.h>
 
 #include "api/pointWalk.h"
-#include "api/status.h"
 
-using host::answer;
 using host::PointWalk;
-
-namespace
-{
-
-// The walk if it stands on a vertex, else null; reports which.
-PointWalk *currentWalk(const std::unique_ptr<PointWalk> &walk, MStatus *status)
-{
-    PointWalk *current = walk && !walk->isDone() ? walk.get() : nullptr;
-    return answer(status, current ? MStatus::kSuccess : MStatus::kFailure, current);
-}
-
-} // namespace
 
 MItMeshVertex::MItMeshVertex(MObject &polyObject, MStatus *ReturnStatus)
     : walk_(PointWalk::over(host::nodeOf(polyObject), nullptr, MObject()))
 {
-    host::report(ReturnStatus, walk_ ? MStatus::kSuccess : MStatus::kInvalidParameter);
+    host::reportWalk(walk_, ReturnStatus);
 }
 
 MItMeshVertex::MItMeshVertex(const MDagPath &polyObject, MObject &component, MStatus *ReturnStatus)
     : walk_(PointWalk::over(host::nodeOf(polyObject.node()), host::pathOf(polyObject), component))
 {
-    host::report(ReturnStatus, walk_ ? MStatus::kSuccess : MStatus::kInvalidParameter);
+    host::reportWalk(walk_, ReturnStatus);
 }
 
 MItMeshVertex::~MItMeshVertex() = default;
+
 const char *MItMeshVertex::className()
 {
     return "MItMeshVertex";
@@ -41,57 +28,43 @@ const char *MItMeshVertex::className()
 
 bool MItMeshVertex::isDone(MStatus *ReturnStatus)
 {
-    host::report(ReturnStatus, walk_ ? MStatus::kSuccess : MStatus::kFailure);
-    return !walk_ || walk_->isDone();
+    return host::isDone(walk_, ReturnStatus);
 }
 
 MStatus MItMeshVertex::next()
 {
-    MStatus status;
-    if (PointWalk *walk = currentWalk(walk_, &status))
-        walk->next();
-    return status;
+    return host::next(walk_);
 }
 
 MStatus MItMeshVertex::reset()
 {
-    if (!walk_)
-        return MStatus::kFailure;
-    walk_->reset();
-    return MStatus::kSuccess;
-}
-
-int MItMeshVertex::count(MStatus *ReturnStatus)
-{
-    host::report(ReturnStatus, walk_ ? MStatus::kSuccess : MStatus::kFailure);
-    return walk_ ? static_cast<int>(walk_->count()) : 0;
-}
-
-int MItMeshVertex::index(MStatus *ReturnStatus)
-{
-    const PointWalk *walk = currentWalk(walk_, ReturnStatus);
-    return walk ? walk->vertex() : 0;
-}
-
-MObject MItMeshVertex::currentItem(MStatus *ReturnStatus)
-{
-    const PointWalk *walk = currentWalk(walk_, ReturnStatus);
-    return walk ? walk->currentItem() : MObject();
+    return host::reset(walk_);
 }
 
 MPoint MItMeshVertex::position(MSpace::Space space, MStatus *ReturnStatus)
 {
-    MPoint point;
-    PointWalk *walk = currentWalk(walk_, ReturnStatus);
-    if (walk && !walk->position(space, point))
-        host::report(ReturnStatus, MStatus::kFailure);
-    return point;
+    return host::positionOf(walk_, space, ReturnStatus);
+}
+
+int MItMeshVertex::index(MStatus *ReturnStatus)
+{
+    return host::vertexOf(walk_, ReturnStatus);
+}
+
+MObject MItMeshVertex::currentItem(MStatus *ReturnStatus)
+{
+    return host::currentItem(walk_, ReturnStatus);
+}
+
+int MItMeshVertex::count(MStatus *ReturnStatus)
+{
+    return host::count(walk_, ReturnStatus);
 }
 
 MStatus MItMeshVertex::getConnectedVertices(MIntArray &vertexList)
 {
     MStatus status;
-    if (PointWalk *walk = currentWalk(walk_, &status)) {
+    if (PointWalk *walk = host::currentWalk(walk_, &status)) {
         const std::vector<int> list = walk->neighbours();
         vertexList = MIntArray(list.data(), static_cast<unsigned int>(list.size()));
     }

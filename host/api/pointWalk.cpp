@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "api/componentBody.h"
+#include "api/status.h"
 #include "scene/history.h"
 #include "scene/scene.h"
 #include "scene/transform.h"
@@ -182,6 +183,66 @@ std::vector<int> PointWalk::neighbours()
         adjacency_ = meshAdjacency(geometry());
     const skin::Adjacency::Range range = adjacency_->of(static_cast<std::size_t>(vertex()));
     return std::vector<int>(range.begin(), range.end());
+}
+
+PointWalk *currentWalk(const WalkPtr &walk, MStatus *status)
+{
+    PointWalk *current = walk && !walk->isDone() ? walk.get() : nullptr;
+    return answer(status, current ? MStatus::kSuccess : MStatus::kFailure, current);
+}
+
+void reportWalk(const WalkPtr &walk, MStatus *status)
+{
+    report(status, walk ? MStatus::kSuccess : MStatus::kInvalidParameter);
+}
+
+bool isDone(const WalkPtr &walk, MStatus *status)
+{
+    report(status, walk ? MStatus::kSuccess : MStatus::kFailure);
+    return !walk || walk->isDone();
+}
+
+MStatus next(const WalkPtr &walk)
+{
+    MStatus status;
+    if (PointWalk *current = currentWalk(walk, &status))
+        current->next();
+    return status;
+}
+
+MStatus reset(const WalkPtr &walk)
+{
+    if (!walk)
+        return MStatus::kFailure;
+    walk->reset();
+    return MStatus::kSuccess;
+}
+
+int count(const WalkPtr &walk, MStatus *status)
+{
+    report(status, walk ? MStatus::kSuccess : MStatus::kFailure);
+    return walk ? static_cast<int>(walk->count()) : 0;
+}
+
+int vertexOf(const WalkPtr &walk, MStatus *status)
+{
+    const PointWalk *current = currentWalk(walk, status);
+    return current ? current->vertex() : 0;
+}
+
+MObject currentItem(const WalkPtr &walk, MStatus *status)
+{
+    const PointWalk *current = currentWalk(walk, status);
+    return current ? current->currentItem() : MObject();
+}
+
+MPoint positionOf(const WalkPtr &walk, MSpace::Space space, MStatus *status)
+{
+    MPoint point;
+    PointWalk *current = currentWalk(walk, status);
+    if (current && !current->position(space, point))
+        report(status, MStatus::kFailure);
+    return point;
 }
 
 } // namespace host

@@ -8,6 +8,7 @@
 
 #include <maya/MObject.h>
 #include <maya/MPoint.h>
+#include <maya/MStatus.h>
 
 #include "api/nodeBody.h"
 #include "scene/component.h"
@@ -49,6 +50,19 @@ private:
     std::optional<skin::Adjacency> adjacency_;
     std::optional<Matrix> worldMatrix_;
 };
+
+// A call of an iterator class on its walk, which is null where there was nothing to walk over: each
+// reports failure then, and those about a point behind the last one too.
+using WalkPtr = std::unique_ptr<PointWalk>;
+PointWalk *currentWalk(const WalkPtr &walk, MStatus *status); // on a point, else null
+void reportWalk(const WalkPtr &walk, MStatus *status);        // after construction
+bool isDone(const WalkPtr &walk, MStatus *status);
+MStatus next(const WalkPtr &walk);
+MStatus reset(const WalkPtr &walk);
+int count(const WalkPtr &walk, MStatus *status);
+int vertexOf(const WalkPtr &walk, MStatus *status);
+MObject currentItem(const WalkPtr &walk, MStatus *status);
+MPoint positionOf(const WalkPtr &walk, MSpace::Space space, MStatus *status);
 
 // The vertices of a component of any kind, ascending. False if they cannot be told.
 bool verticesOf(const Node &mesh, const Component &component, std::vector<int> &vertices);
