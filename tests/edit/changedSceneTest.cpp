@@ -4,8 +4,8 @@
 
 #include <maya/MGlobal.h>
 
-#include "edit/editScene.h"
 #include "model/messages.h"
+#include "support/editScene.h"
 
 class changedScene : public EditScene
 {

@@ -2,8 +2,8 @@
 //
 // korvexCmd as a script calls it.
 
-#include "edit/editScene.h"
 #include "model/messages.h"
+#include "support/editScene.h"
 
 class command : public EditScene
 {

@@ -4,8 +4,8 @@
 
 #include <QColor>
 
-#include "edit/editScene.h"
 #include "model/messages.h"
+#include "support/editScene.h"
 
 class editCells : public EditScene
 {

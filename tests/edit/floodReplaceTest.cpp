@@ -2,8 +2,8 @@
 //
 // Flooding a joint column.
 
-#include "edit/editScene.h"
 #include "model/messages.h"
+#include "support/editScene.h"
 
 class floodReplace : public EditScene
 {

@@ -2,8 +2,8 @@
 //
 // Limiting the influences per vertex.
 
-#include "edit/editScene.h"
 #include "model/messages.h"
+#include "support/editScene.h"
 
 class maxInfluences : public EditScene
 {

@@ -5,8 +5,8 @@
 #include "commands/preparers.h"
 #include "commands/undoReplay.h"
 #include "commands/writers.h"
-#include "edit/infoRecorder.h"
 #include "model/weightTableModel.h"
+#include "support/infoRecorder.h"
 #include "support/mayaSession.h"
 
 class PreparedScene : public MayaSession

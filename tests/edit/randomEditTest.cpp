@@ -11,9 +11,9 @@
 
 #include <maya/MGlobal.h>
 
-#include "edit/editScene.h"
 #include "edit/naiveWrite.h"
 #include "model/weightTableModel.h"
+#include "support/editScene.h"
 
 namespace
 {

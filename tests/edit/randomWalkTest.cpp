@@ -10,7 +10,7 @@
 
 #include <QItemSelectionModel>
 
-#include "edit/editScene.h"
+#include "support/editScene.h"
 
 namespace
 {

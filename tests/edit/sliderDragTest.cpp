@@ -4,8 +4,8 @@
 
 #include <QSignalSpy>
 
-#include "edit/editScene.h"
 #include "model/messages.h"
+#include "support/editScene.h"
 
 class sliderDrag : public EditScene
 {

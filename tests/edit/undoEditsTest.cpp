@@ -2,8 +2,8 @@
 //
 // Taking the table's last edit back through Maya's undo queue, and only that edit.
 
-#include "edit/editScene.h"
 #include "model/messages.h"
+#include "support/editScene.h"
 
 class undoEdits : public EditScene
 {

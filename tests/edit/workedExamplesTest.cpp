@@ -9,7 +9,7 @@
 #include <maya/MIntArray.h>
 #include <maya/MSelectionList.h>
 
-#include "edit/editScene.h"
+#include "support/editScene.h"
 
 class workedExamples : public EditScene
 {

@@ -4,7 +4,7 @@
 
 #include <QImage>
 
-#include "window/windowScene.h"
+#include "support/windowScene.h"
 
 class GuideScene : public WindowScene
 {

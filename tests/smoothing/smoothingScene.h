@@ -2,7 +2,7 @@
 // A loaded table to be smoothed, and what the user has in hand meanwhile.
 #pragma once
 
-#include "edit/editScene.h"
+#include "support/editScene.h"
 
 class SmoothingScene : public EditScene
 {

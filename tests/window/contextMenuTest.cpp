@@ -5,7 +5,7 @@
 #include <QMenu>
 
 #include "model/messages.h"
-#include "window/windowScene.h"
+#include "support/windowScene.h"
 
 class contextMenu : public WindowScene
 {

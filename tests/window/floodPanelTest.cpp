@@ -4,7 +4,7 @@
 #include <QSlider>
 
 #include "model/messages.h"
-#include "window/windowScene.h"
+#include "support/windowScene.h"
 
 class floodPanel : public WindowScene
 {

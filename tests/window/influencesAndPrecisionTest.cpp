@@ -5,7 +5,7 @@
 #include <QSlider>
 
 #include "model/messages.h"
-#include "window/windowScene.h"
+#include "support/windowScene.h"
 
 class influencesAndPrecision : public WindowScene
 {

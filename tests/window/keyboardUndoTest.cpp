@@ -15,7 +15,7 @@
 #include <QSlider>
 
 #include "model/messages.h"
-#include "window/windowScene.h"
+#include "support/windowScene.h"
 
 class keyboardUndo : public WindowScene
 {

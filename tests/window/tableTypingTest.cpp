@@ -3,7 +3,7 @@
 #include <QLineEdit>
 
 #include "model/messages.h"
-#include "window/windowScene.h"
+#include "support/windowScene.h"
 
 class tableTyping : public WindowScene
 {

@@ -9,7 +9,7 @@
 #include <QStyleOptionSlider>
 
 #include "model/messages.h"
-#include "window/windowScene.h"
+#include "support/windowScene.h"
 
 class valueRow : public WindowScene
 {

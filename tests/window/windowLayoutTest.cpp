@@ -14,7 +14,7 @@
 #include <QSlider>
 
 #include "model/messages.h"
-#include "window/windowScene.h"
+#include "support/windowScene.h"
 
 class windowLayout : public WindowScene
 {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "window/windowScene.h"
+#include "support/windowScene.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -4,7 +4,7 @@
 
 #include <QTest>
 
-#include "edit/editScene.h"
+#include "support/editScene.h"
 
 class QLineEdit;
 class QSlider;

@@ -2,8 +2,8 @@
 // The loaded plug-in with its window, typed into.
 #pragma once
 
-#include "edit/infoRecorder.h"
 #include "support/editorScene.h"
+#include "support/infoRecorder.h"
 
 class EditScene : public EditorScene
 {

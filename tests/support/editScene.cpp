@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "edit/editScene.h"
+#include "support/editScene.h"
 
 #include <cstdio>
 
