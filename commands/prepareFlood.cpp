@@ -37,6 +37,8 @@ preparation prepareFlood(const editSource &source, preparedEdit &edit)
             return preparation::failed;
         }
         const QVector<int> vertices = unlockedVertices(source, filled.at(i));
+        if (vertices.isEmpty())
+            continue; // its writer says that there is nothing
         const bool isWhole = vertices.size() == source.weights.vertexCount(filled.at(i));
         weightWrite &write = isWhole ? shapes.appendWriteToAll(place, filled.at(i))
                                      : shapes.appendWrite(place, vertices);

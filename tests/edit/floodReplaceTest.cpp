@@ -95,4 +95,7 @@ TEST_F(floodReplace, leavesLockedRowsAndSaysHowMany)
     EXPECT_EQ(infos_.take(), "Locked vertices that kept their weights: 4.");
     EXPECT_EQ(column("body"), "0.9 0.1, 0.25 0.75, 0.9 0.1, 0.9 0.1");
     EXPECT_EQ(undoItems(), items) << "an edit that does nothing could not be undone";
+    melError("korvexCmd -replace"); // the flood before, by a script
+    EXPECT_EQ(infos_.take(), kDataNotSetUp);
+    EXPECT_EQ(column("body"), "0.9 0.1, 0.25 0.75, 0.9 0.1, 0.9 0.1");
 }
