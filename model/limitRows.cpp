@@ -27,8 +27,7 @@ QHash<int, QList<int>> columnsByRow(const QList<cellIndex> &cells)
 
 int influencesBeyond(int maximum, const weightRow &row)
 {
-    const int count = summarize(row).nonZeroCount;
-    return count <= 1 ? 0 : qMax(0, count - maximum);
+    return qMax(0, summarize(row).nonZeroCount - qMax(1, maximum));
 }
 
 rowsToLimit screenForLimit(const QVector<int> &candidates, const weightRows &rows,

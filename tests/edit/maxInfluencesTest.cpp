@@ -45,6 +45,7 @@ TEST_F(maxInfluences, takesTheSmallestWeightsOfEachVertexInOneStep)
         {3, "0.444444 0.333333 0.222222 0, 0 0.333333 0.333333 0.333333, 1 0 0 0, 0 0.5 0.3 0.2"},
         {2, "0.571429 0.428571 0 0, 0 0 0.5 0.5, 1 0 0 0, 0 0.625 0.375 0"},
         {1, "1 0 0 0, 0 0 0 1, 1 0 0 0, 0 1 0 0"},
+        {-1, "1 0 0 0, 0 0 0 1, 1 0 0 0, 0 1 0 0"}, // a vertex keeps one
     };
     for (const auto &c : cases) {
         limit(c.maximum);
