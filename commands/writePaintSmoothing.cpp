@@ -19,5 +19,7 @@ MStatus writePaintSmoothing(preparedEdit &edit)
     // A tool that could not be set up would flood another joint, or other vertices.
     for (unsigned int i = 0; status && i < edit.scripts.length(); ++i)
         status = MGlobal::executeCommand(edit.scripts[i]);
+    if (!status)
+        edit.oldWeights.clear(); // what writes is the last statement: nothing was displaced
     return status;
 }

@@ -19,7 +19,9 @@ MStatus writeSmoothing(preparedEdit &edit)
     noteMaximumSwitches(edit);
     const selectionHold hold;
     const MStatus status = MGlobal::executeCommand(edit.scripts[0], true, false);
-    if (!status)
+    if (!status) {
         switchMaximumsBack(edit);
+        edit.oldWeights.clear(); // what writes is the last statement: nothing was displaced
+    }
     return status;
 }

@@ -33,7 +33,7 @@ MStatus writeFlood(preparedEdit &edit);
 MStatus writeCells(preparedEdit &edit);
 MStatus writeColumn(preparedEdit &edit);
 
-// Have Maya's own tools smooth. What that displaces is read before. The user's selection, and for
+// Have Maya's own tools smooth. What that displaces is read before, and forgotten if they fail. The user's selection, and for
 // the paint tool the user's tool and what can be picked, are afterwards what they were, also where
 // something failed.
 //

@@ -85,6 +85,18 @@ TEST_F(undoEdits, refusesAnEditThatWasNotRecorded)
     EXPECT_EQ(firstVertex(), "0 1 0");
 }
 
+TEST_F(undoEdits, passesOverWhatMayaRefusedToSmooth)
+{
+    EXPECT_TRUE(type(1, 0, "0.8"));
+    selectCells(1, 0, 1, 0);
+    call("applySmoothSkinWeights", 1.5, 1);
+    call("applySkinPaintSmooth", 2.0);
+    EXPECT_NE(takeErrors().find("out of range"), std::string::npos);
+    call("undoLastAction");
+    EXPECT_EQ(takeWarnings(), "");
+    EXPECT_EQ(firstVertex(), "0.5 0.3 0.2");
+}
+
 TEST_F(undoEdits, redoesOnlyWhatMayaWouldRedo)
 {
     EXPECT_TRUE(type(1, 0, "0.8"));
