@@ -25,12 +25,12 @@ bool canTake(const editedShape &shape)
 
 } // namespace
 
-shapeWriter::shapeWriter(const editedShape &shape, bool leavesNormalizationAlone)
+shapeWriter::shapeWriter(const editedShape &shape, normalization normalize)
     : skinCluster_(shape.skinCluster.object()), path_(shape.path)
 {
     for (unsigned int i = 0; i < shape.influenceCount; ++i)
         allInfluences_.append(static_cast<int>(i));
-    if (!leavesNormalizationAlone)
+    if (normalize != normalization::leftAlone)
         guard_.reset(new normalizationGuard(skinCluster_));
 }
 
@@ -64,27 +64,23 @@ MDoubleArray shapeWriter::weightsOf(const MObject &component) const
     return weights;
 }
 
-shapeWriters::shapeWriters(const preparedEdit &edit)
-    : shapeWriters(edit.shapes, edit.leavesNormalizationAlone)
+shapeWriters::shapeWriters(const preparedEdit &edit, normalization normalize)
 {
+    if (edit.leavesNormalizationAlone)
+        normalize = normalization::leftAlone;
+    for (int i = 0; areReady_ && i < edit.shapes.size(); ++i)
+        add(edit.shapes.at(i), normalize);
 }
 
-shapeWriters::shapeWriters(const QVector<editedShape> &shapes, bool leavesNormalizationAlone)
-{
-    for (int i = 0; areReady_ && i < shapes.size(); ++i)
-        add(shapes.at(i), leavesNormalizationAlone);
-}
-
-void shapeWriters::add(const editedShape &shape, bool leavesNormalizationAlone)
+void shapeWriters::add(const editedShape &shape, normalization normalize)
 {
     if (!canTake(shape)) {
         areReady_ = false;
         MGlobal::displayInfo(kDataNotSetUp);
         return;
     }
-    writers_.push_back(
-        std::unique_ptr<shapeWriter>(new shapeWriter(shape, leavesNormalizationAlone)));
-    if (!writers_.back()->isNormalizing()) {
+    writers_.push_back(std::unique_ptr<shapeWriter>(new shapeWriter(shape, normalize)));
+    if (normalize == normalization::needed && !writers_.back()->isNormalizing()) {
         areReady_ = false;
         MGlobal::displayError(
             messageWith(kNormalizationFixed, MFnDependencyNode(shape.skinCluster.object()).name()));
@@ -98,7 +94,7 @@ bool keepDisplaced(preparedEdit &edit)
         MGlobal::displayInfo(kDataNotSetUp);
         return false;
     }
-    shapeWriters readers(edit.shapes, true);
+    shapeWriters readers(edit, normalization::leftAlone);
     for (int i = 0; readers.areReady() && i < edit.writes.size(); ++i)
         edit.oldWeights.append(
             readers.of(edit.writes.at(i)).weightsOf(edit.writes.at(i).component));

@@ -13,12 +13,19 @@
 #include <memory>
 #include <vector>
 
-// Writes to one shape, normalized as long as it lives unless the edit leaves that alone.
+// Whether writes are normalized where the skin cluster has that switched off.
+enum class normalization {
+    needed,
+    wherePossible, // weights of all influences, which are stored as they are where it is not
+    leftAlone
+};
+
+// Writes to one shape, normalized like that as long as it lives.
 class shapeWriter
 {
 public:
     // REQUIRES: the skin cluster exists; so for all calls.
-    shapeWriter(const editedShape &shape, bool leavesNormalizationAlone);
+    shapeWriter(const editedShape &shape, normalization normalize);
 
     // False where the skin cluster cannot be made to normalize.
     bool isNormalizing() const { return !guard_ || guard_->isNormalizing(); }
@@ -44,16 +51,17 @@ class shapeWriters
 {
 public:
     // Shows a message if not all of it can be written: a shape or its skin cluster is gone, has
-    // other influences or fewer vertices, or cannot be made to normalize.
-    explicit shapeWriters(const preparedEdit &edit);
-    shapeWriters(const QVector<editedShape> &shapes, bool leavesNormalizationAlone);
+    // other influences or fewer vertices, or cannot be made to normalize where that is needed.
+    // Edits that leave normalization alone are not normalized in any case.
+    explicit shapeWriters(const preparedEdit &edit,
+                          normalization normalize = normalization::needed);
 
     bool areReady() const { return areReady_; }
     // REQUIRES: areReady().
     shapeWriter &of(const weightWrite &write) { return *writers_[size_t(write.shape)]; }
 
 private:
-    void add(const editedShape &shape, bool leavesNormalizationAlone);
+    void add(const editedShape &shape, normalization normalize);
 
     std::vector<std::unique_ptr<shapeWriter>> writers_;
     bool areReady_ = true;

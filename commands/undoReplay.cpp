@@ -8,7 +8,7 @@ MStatus replayDisplaced(const preparedEdit &edit)
 {
     if (edit.oldWeights.isEmpty())
         return MStatus::kFailure;
-    shapeWriters writers(edit);
+    shapeWriters writers(edit, normalization::wherePossible);
     if (!writers.areReady())
         return MStatus::kFailure;
     switchMaximumsBack(edit);

@@ -170,6 +170,24 @@ TEST_F(skinSmooth, leavesTheMaximumMaintainedUntilItIsUndone)
     EXPECT_EQ(melString("getAttr bodySkin.mmi"), "1") << "as the user had it";
 }
 
+TEST_F(skinSmooth, comesBackWhereNothingCanBeNormalized)
+{
+    makeStrip("body");
+    load("body");
+    mel("setAttr bodySkin.nw 0; setAttr -lock 1 bodySkin.nw; setAttr bodySkin.wl[5].w[0] 0.5");
+    const std::string before = all();
+    smooth(0.5, 1);
+    EXPECT_NE(all(), before);
+    mel("undo");
+    EXPECT_EQ(all(), before);
+    selectCells(2, 1, 2, 1);
+    paint(0.5);
+    EXPECT_NE(all(), before);
+    mel("undo");
+    EXPECT_EQ(all(), before);
+    EXPECT_EQ(takeErrors(), "");
+}
+
 TEST_F(skinSmooth, leavesEverythingAsItWasWhenMayaRefuses)
 {
     makeStrip("body");
