@@ -22,7 +22,9 @@ bool distributesByNeighbours(const MObject &skinCluster)
 } // namespace
 
 editedShapes::editedShapes(const editSource &source, preparedEdit &edit)
-    : source_(source), edit_(edit), places_(source.weights.shapeCount(), -1)
+    : source_(source), edit_(edit), places_(source.weights.shapeCount(), -1),
+      firstWithSkinCluster_(source.weights.firstWithSkinCluster()),
+      asked_(static_cast<size_t>(source.weights.shapeCount()))
 {
 }
 
@@ -47,6 +49,27 @@ int editedShapes::enter(int shape)
     return places_.at(shape);
 }
 
+bool editedShapes::isNew(int shape, int vertex)
+{
+    QVector<bool> &asked = asked_[static_cast<size_t>(firstWithSkinCluster_.at(shape))];
+    if (asked.size() <= vertex)
+        asked.resize(vertex + 1);
+    const bool wasAsked = asked.at(vertex);
+    asked[vertex] = true;
+    return !wasAsked;
+}
+
+QVector<int> editedShapes::newRows(int shape)
+{
+    const weightList &weights = source_.weights;
+    QVector<int> rows;
+    for (int row = weights.firstVertexRow(shape); row < weights.endOfVertexRows(shape); ++row) {
+        if (isNew(shape, weights.rowNames.vertex(row)))
+            rows.append(row);
+    }
+    return rows;
+}
+
 int editedShapes::influenceOf(int place, int column) const
 {
     const weightList &weights = source_.weights;
@@ -69,11 +92,16 @@ weightWrite &editedShapes::appendWrite(int place, const QVector<int> &vertices)
     return write;
 }
 
-weightWrite &editedShapes::appendWriteToAll(int place, int shape)
+weightWrite &editedShapes::appendWriteToRows(int place, int shape, const QVector<int> &rows)
 {
-    const int lastRow = source_.weights.endOfVertexRows(shape) - 1;
-    return append(place, loadedVerticesOf(source_.weights, shape),
-                  source_.weights.rowNames.vertex(lastRow));
+    const weightList &weights = source_.weights;
+    if (rows.size() == weights.vertexCount(shape))
+        return append(place, loadedVerticesOf(weights, shape),
+                      weights.rowNames.vertex(rows.last()));
+    QVector<int> vertices;
+    for (int i = 0; i < rows.size(); ++i)
+        vertices.append(weights.rowNames.vertex(rows.at(i)));
+    return appendWrite(place, vertices);
 }
 
 weightWrite &editedShapes::appendWriteToMesh(int place)

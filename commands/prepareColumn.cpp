@@ -17,13 +17,12 @@ bool hasColumn(const weightList &weights, int shape, int column)
            !isInert(cellOf(weights.rows.at(first), column));
 }
 
-MDoubleArray draggedWeights(const editSource &source, int shape)
+MDoubleArray draggedWeights(const editSource &source, const QVector<int> &rows)
 {
     const editHandOver &drag = source.handOver;
     MDoubleArray values;
-    const int end = source.weights.endOfVertexRows(shape);
-    for (int r = source.weights.firstVertexRow(shape); r < end; ++r) {
-        const double weight = cellOf(source.weights.rows.at(r), drag.operationColumn);
+    for (int i = 0; i < rows.size(); ++i) {
+        const double weight = cellOf(source.weights.rows.at(rows.at(i)), drag.operationColumn);
         values.append(movedWeight(drag.columnDrag, weight));
     }
     return values;
@@ -38,6 +37,9 @@ preparation prepareColumn(const editSource &source, preparedEdit &edit)
     for (int shape = 0; shape < source.weights.shapeCount(); ++shape) {
         if (!hasColumn(source.weights, shape, source.handOver.operationColumn))
             continue;
+        const QVector<int> rows = shapes.newRows(shape);
+        if (rows.isEmpty())
+            continue;
         const int place = shapes.enter(shape);
         if (place < 0)
             return preparation::outdated;
@@ -46,9 +48,9 @@ preparation prepareColumn(const editSource &source, preparedEdit &edit)
             MGlobal::displayInfo(kNoJointIndex);
             return preparation::failed;
         }
-        weightWrite &write = shapes.appendWriteToAll(place, shape);
+        weightWrite &write = shapes.appendWriteToRows(place, shape, rows);
         write.influence = influence;
-        write.values = draggedWeights(source, shape);
+        write.values = draggedWeights(source, rows);
         write.heldJoints = held;
     }
     return preparation::ready;

@@ -10,15 +10,15 @@ namespace
 {
 
 // Locked vertices keep their weights.
-QVector<int> unlockedVertices(const editSource &source, int shape)
+QVector<int> unlockedRows(const editSource &source, int shape)
 {
-    QVector<int> vertices;
+    QVector<int> rows;
     const int end = source.weights.endOfVertexRows(shape);
     for (int row = source.weights.firstVertexRow(shape); row < end; ++row) {
         if (!source.locks.isRowLocked(row))
-            vertices.append(source.weights.rowNames.vertex(row));
+            rows.append(row);
     }
-    return vertices;
+    return rows;
 }
 
 } // namespace
@@ -36,12 +36,10 @@ preparation prepareFlood(const editSource &source, preparedEdit &edit)
             MGlobal::displayInfo(kNoJointIndex);
             return preparation::failed;
         }
-        const QVector<int> vertices = unlockedVertices(source, filled.at(i));
-        if (vertices.isEmpty())
+        const QVector<int> rows = unlockedRows(source, filled.at(i));
+        if (rows.isEmpty())
             continue; // its writer says that there is nothing
-        const bool isWhole = vertices.size() == source.weights.vertexCount(filled.at(i));
-        weightWrite &write = isWhole ? shapes.appendWriteToAll(place, filled.at(i))
-                                     : shapes.appendWrite(place, vertices);
+        weightWrite &write = shapes.appendWriteToRows(place, filled.at(i), rows);
         write.influence = influence;
         write.value = source.handOver.floodValue;
     }

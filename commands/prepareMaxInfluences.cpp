@@ -42,7 +42,7 @@ preparation prepareMaxInfluences(const editSource &source, preparedEdit &edit)
         if (vertex < 0)
             return fail(kUnreadableVertexIndex);
         const int drops = influencesBeyond(source.maxInfluences, row);
-        if (drops == 0)
+        if (drops == 0 || !shapes.isNew(shapeIndexOf(row), vertex))
             continue;
         const int place = shapes.enter(shapeIndexOf(row));
         if (place < 0)

@@ -7,16 +7,15 @@
 namespace
 {
 
-// The shape's rounded weights, vertex by vertex, as its skin cluster counts its influences. Empty
+// The rounded weights of rows, vertex by vertex, as their skin cluster counts its influences. Empty
 // if an influence has no column, or a row has not all.
-MDoubleArray roundedWeights(const editSource &source, int shape, const QVector<int> &columns)
+MDoubleArray roundedWeights(const editSource &source, const QVector<int> &rows,
+                            const QVector<int> &columns)
 {
-    const int first = source.weights.firstVertexRow(shape);
-    const int end = source.weights.endOfVertexRows(shape);
-    MDoubleArray values(static_cast<unsigned int>((end - first) * columns.size()));
+    MDoubleArray values(static_cast<unsigned int>(rows.size() * columns.size()));
     unsigned int place = 0;
-    for (int r = first; r < end; ++r) {
-        const weightRow &row = source.handOver.roundedRows.at(r);
+    for (int i = 0; i < rows.size(); ++i) {
+        const weightRow &row = source.handOver.roundedRows.at(rows.at(i));
         for (int influence = 0; influence < columns.size(); ++influence) {
             if (!hasCell(row, columns.at(influence)))
                 return MDoubleArray();
@@ -36,17 +35,18 @@ preparation prepareRounding(const editSource &source, preparedEdit &edit)
         return preparation::outdated;
     editedShapes shapes(source, edit);
     for (int shape = 0; shape < weights.shapeCount(); ++shape) {
-        if (weights.firstVertexRow(shape) == weights.endOfVertexRows(shape))
+        const QVector<int> rows = shapes.newRows(shape);
+        if (rows.isEmpty())
             continue;
         const int place = shapes.enter(shape);
         if (place < 0)
             return preparation::outdated;
         const MDoubleArray values = roundedWeights(
-            source, shape,
+            source, rows,
             columnsOfInfluences(weights.skinClusters[static_cast<unsigned int>(shape)], weights));
         if (values.length() == 0)
             return preparation::outdated;
-        shapes.appendWriteToAll(place, shape).values = values;
+        shapes.appendWriteToRows(place, shape, rows).values = values;
     }
     return preparation::ready;
 }

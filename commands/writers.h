@@ -33,9 +33,9 @@ MStatus writeFlood(preparedEdit &edit);
 MStatus writeCells(preparedEdit &edit);
 MStatus writeColumn(preparedEdit &edit);
 
-// Have Maya's own tools smooth. What that displaces is read before, and forgotten if they fail. The user's selection, and for
-// the paint tool the user's tool and what can be picked, are afterwards what they were, also where
-// something failed.
+// Have Maya's own tools smooth. What that displaces is read before, and forgotten if they fail. The
+// user's selection, and for the paint tool the user's tool and what can be picked, are afterwards
+// what they were, also where something failed.
 //
 // By the skin cluster's own edit, which leaves maintainMaxInfluences on until it is undone. Without
 // a script there is a message and kFailure.

@@ -16,19 +16,6 @@
 namespace
 {
 
-// For each shape the first one with the same skin cluster.
-QVector<int> firstWithSkinCluster(const MObjectArray &skinClusters)
-{
-    QVector<int> first;
-    for (unsigned int shape = 0; shape < skinClusters.length(); ++shape) {
-        unsigned int same = 0;
-        while (skinClusters[same] != skinClusters[shape])
-            ++same;
-        first.append(static_cast<int>(same));
-    }
-    return first;
-}
-
 QString smoothingOf(const weightList &weights, int shape, const QString &value, int iterations)
 {
     const MObject &skinCluster = weights.skinClusters[static_cast<unsigned int>(shape)];
@@ -68,7 +55,7 @@ void weightTableModel::applySmoothSkinWeights(double value, int numIter)
 
 QVector<int> weightTableModel::smoothWholeMeshes(const QString &value, int iterations)
 {
-    const QVector<int> first = firstWithSkinCluster(weights_.skinClusters);
+    const QVector<int> first = weights_.firstWithSkinCluster();
     const editAction all(trail_);
     for (int shape = 0; shape < first.size(); ++shape) {
         if (first.at(shape) != shape)
@@ -86,7 +73,7 @@ QVector<int> weightTableModel::smoothWholeMeshes(const QString &value, int itera
 
 QVector<int> weightTableModel::smoothSelectedRows(const QString &value, int iterations)
 {
-    const QVector<int> skinClusters = firstWithSkinCluster(weights_.skinClusters);
+    const QVector<int> skinClusters = weights_.firstWithSkinCluster();
     const rowsToSmooth chosen =
         screenForSmoothing(rowsWithSelectedCell(viewSelection()), weights_.rows, skinClusters);
     const int shape = chosen.refusal ? -1 : shapeIndexOf(weights_.rows.at(chosen.rows.first()));

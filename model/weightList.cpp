@@ -19,6 +19,18 @@ int weightList::endOfVertexRows(int shape) const
     return static_cast<int>(next < shapeRows.size() ? shapeRows.at(next) : rows.size());
 }
 
+QVector<int> weightList::firstWithSkinCluster() const
+{
+    QVector<int> first;
+    for (unsigned int shape = 0; shape < skinClusters.length(); ++shape) {
+        unsigned int same = 0;
+        while (skinClusters[same] != skinClusters[shape])
+            ++same;
+        first.append(static_cast<int>(same));
+    }
+    return first;
+}
+
 void weightList::addJointColumn(const MDagPath &influence)
 {
     const QString path = textOf(influence.fullPathName());

@@ -54,6 +54,10 @@ struct weightList {
     int endOfVertexRows(int shape) const;
     int vertexCount(int shape) const { return endOfVertexRows(shape) - firstVertexRow(shape); }
 
+    // For each shape the first one with the same skin cluster: itself, but where a mesh is loaded
+    // twice (as a whole and by vertices, or through two instances).
+    QVector<int> firstWithSkinCluster() const;
+
     // Adds a joint column for the influence unless it has one. Names and colours follow with
     // readJointHeaders(), once all are known.
     void addJointColumn(const MDagPath &influence);

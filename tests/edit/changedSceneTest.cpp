@@ -2,6 +2,8 @@
 //
 // The scene changes under the table, and then somebody types.
 
+#include <functional>
+
 #include <maya/MGlobal.h>
 
 #include "model/messages.h"
@@ -51,6 +53,42 @@ TEST_F(changedScene, takesTheEditOrSaysWhyNot)
         if (*c.weights) {
             EXPECT_EQ(weights(0), c.weights) << c.change;
         }
+    }
+}
+
+TEST_F(changedScene, writesOnceToAVertexThatIsLoadedTwice)
+{
+    makeSkin("body", {"a", "b", "c", "d"},
+             {{.4, .3, .2, .1}, {.2504, .2496, .25, .25}, {1, 0, 0, 0}, {0, .5, .3, .2}});
+    const auto held = [] { return weights(0) + ", " + weights(1) + ", " + weights(3); };
+    const std::string before = held();
+    const struct {
+        const char *loaded;
+        std::function<void()> operate;
+        const char *weights;
+    } cases[] = {
+        {"body.vtx[0:1] body",
+         [this] {
+             call("setMaxValue", 2);
+             call("applyMaxInfluence");
+         },
+         "0.571429 0.428571 0 0, 0 0 0.5 0.5, 0 0.625 0.375 0"},
+        {"body.vtx[0:1] body",
+         [this] {
+             selectColumn(0);
+             call("dragSlider", 0.5, true);
+         },
+         "0.5 0.25 0.166667 0.0833333, 0.5 0.166489 0.166756 0.166756, 0.5 0.25 0.15 0.1"},
+        {"body body.vtx[1]", [this] { call("applyPrecision"); },
+         "0.4 0.3 0.2 0.1, 0.25 0.25 0.25 0.25, 0 0.5 0.3 0.2"},
+    };
+    for (const auto &c : cases) {
+        load(c.loaded);
+        view_->clearSelection();
+        c.operate();
+        EXPECT_EQ(held(), c.weights) << c.loaded;
+        MGlobal::executeCommand("undo"); // the load is not on the queue
+        EXPECT_EQ(held(), before) << c.loaded;
     }
 }
 
