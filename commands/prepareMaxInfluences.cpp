@@ -41,8 +41,8 @@ preparation prepareMaxInfluences(const editSource &source, preparedEdit &edit)
         const int vertex = weights.rowNames.vertex(r);
         if (vertex < 0)
             return fail(kUnreadableVertexIndex);
-        const int drops = influencesBeyond(source.maxInfluences, row);
-        if (drops == 0 || !shapes.isNew(shapeIndexOf(row), vertex))
+        if (influencesBeyond(source.maxInfluences, row) == 0 ||
+            !shapes.isNew(shapeIndexOf(row), vertex))
             continue;
         const int place = shapes.enter(shapeIndexOf(row));
         if (place < 0)
@@ -51,7 +51,7 @@ preparation prepareMaxInfluences(const editSource &source, preparedEdit &edit)
         weightWrite &write = shapes.appendWrite(place, QVector<int>(1, vertex));
         write.row = row;
         write.rowIndex = r;
-        write.drops = drops;
+        write.maximum = source.maxInfluences;
     }
     return preparation::ready;
 }

@@ -39,10 +39,10 @@ struct weightWrite {
     // Joints that Maya must hold meanwhile.
     MDagPathArray heldJoints;
 
-    // Limiting influences: the vertex's row of the table, where it stands, and how many are to go.
+    // Limiting influences: the vertex's row of the table, where it stands, and how many may stay.
     weightRow row;
     int rowIndex = -1;
-    int drops = 0;
+    int maximum = 0;
 };
 
 struct preparedEdit {

@@ -2,6 +2,7 @@
 #include "commands/shapeWriter.h"
 #include "commands/writers.h"
 
+#include "model/limitRows.h"
 #include "model/messages.h"
 
 #include <maya/MGlobal.h>
@@ -36,8 +37,9 @@ MStatus dropSmallest(shapeWriter &writer, const editedShape &shape, const weight
                      cellQuestion mayChange, MDoubleArray &old, bool *isUnknown)
 {
     weightRow row = write.row;
+    int drops = influencesBeyond(write.maximum, row);
     MStatus status;
-    for (int drop = 0; drop < write.drops; ++drop) {
+    for (int drop = 0; drop < drops; ++drop) {
         const int column = smallestWeight(row);
         if (column < 0)
             break;
@@ -54,6 +56,8 @@ MStatus dropSmallest(shapeWriter &writer, const editedShape &shape, const weight
         if (old.length() == 0)
             old = displaced;
         layOut(writer.weightsOf(write.component), shape, row);
+        if (drop == 0) // the row now has the weights that the table rounds away
+            drops = 1 + influencesBeyond(write.maximum, row);
     }
     return status;
 }

@@ -18,9 +18,10 @@ typedef MStatus (*editWriter)(preparedEdit &edit);
 // An edit without writes is no failure here: no vertex has too many influences.
 //
 // Takes a vertex's smallest weights out one by one, each time letting the skin cluster normalize
-// the others; among equal ones the leftmost goes. A weight of a joint that is no influence stops
-// everything that is left, with a message and kFailure; what was written stays, and stays in
-// oldWeights.
+// the others; among equal ones the leftmost goes. The first is chosen as the table shows them, the
+// others to the last digit: weights too small to be shown count then, and go. A weight of a joint
+// that is no influence stops everything that is left, with a message and kFailure; what was written
+// stays, and stays in oldWeights.
 MStatus writeMaxInfluences(preparedEdit &edit);
 // The same, asking before each weight that goes: a cell of the table that is refused is passed
 // over.

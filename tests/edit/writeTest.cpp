@@ -37,6 +37,20 @@ TEST_F(writeEdit, dropsTheSmallestWeightsOneByOne)
     }
 }
 
+TEST_F(writeEdit, takesOutWeightsThatTheTableDoesNotShow)
+{
+    makeSkin("body", {"a", "b", "c", "d"},
+             {{.5, .3, .1999, .0001}, {.4999, .3, .2, .0001}, {.6, .3999, .0001, 0}, {1, 0, 0, 0}});
+    load("body");
+    handOver_.maxInfluenceRows = {1, 2, 3, 4};
+    maxInfluences_ = 2;
+    ASSERT_EQ(prepare(prepareMaxInfluences), preparation::ready);
+    EXPECT_TRUE(writeMaxInfluences(edit_));
+    EXPECT_EQ(weights("body"), "0.625 0.375 0 0; 0.625 0.375 0 0; 0.6 0.3999 0.0001 0; 1 0 0 0");
+    EXPECT_TRUE(replayDisplaced(edit_));
+    EXPECT_EQ(weights("body").substr(0, 22), "0.5 0.3 0.1999 0.0001;");
+}
+
 TEST_F(writeEdit, stopsAtAJointThatIsNoInfluence)
 {
     makeSkin("body", {"a", "b", "c"}, {{.5, .3, .2}, {.2, .3, .5}, {.5, .3, .2}, {1, 0, 0}});
