@@ -32,6 +32,7 @@ MStatus openWindow()
         activeWindow = new korvexWindow(hostWindow());
         activeModel = activeWindow->model();
     }
+    activeWindow->setWindowState(activeWindow->windowState() & ~Qt::WindowMinimized);
     activeWindow->show();
     activeWindow->raise();
     return MStatus::kSuccess;

@@ -17,6 +17,9 @@ TEST_F(life, hasOneWindowHoweverOftenItIsAskedFor)
     mel("korvexCmd; korvexCmd");
     EXPECT_EQ(windows(), std::vector<QWidget *>{window_});
     EXPECT_TRUE(window_->isVisible());
+    window_->showMinimized();
+    mel("korvexCmd");
+    EXPECT_FALSE(window_->isMinimized());
     EXPECT_EQ(window_->windowTitle(), "Korvex");
 }
 
