@@ -27,6 +27,8 @@ void editTrail::done(int edit, effect what)
     else
         undone_.clear(); // something new: what was undone cannot be done again
     next.hasEffect = what == changedWeights;
+    if (next.hasEffect)
+        newestEffective_ = qMax(newestEffective_, edit);
     done_.append(next);
 }
 

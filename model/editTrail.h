@@ -15,8 +15,8 @@ class editTrail
 public:
     enum effect { changedWeights, changedNothing };
 
-    // A number for a new edit. No two edits of a process have the same, whatever trail they report
-    // to.
+    // A number for a new edit, greater than those before. No two edits of a process have the same,
+    // whatever trail they report to.
     static int newEdit();
 
     // Edits done from now on belong to one action, until the call is balanced; calls nest.
@@ -29,6 +29,10 @@ public:
     // Maya has dropped the edit. If it was the last one done, it is undone by nobody any more:
     // those below it no longer fit the scene and count as not belonging to any action.
     void dropped(int edit);
+
+    // The number of the newest edit that has changed weights, undone by now or not; 0 before the
+    // first.
+    int newestEffective() const { return newestEffective_; }
 
     // How many edits the action has that would be undone (redone) next, all of them effective. 0 if
     // the next edit belongs to none.
@@ -51,6 +55,7 @@ private:
     stack undone_;
     int openActions_ = 0;
     int lastAction_ = 0;
+    int newestEffective_ = 0;
 };
 
 // Belongs to one action what is done while it lives.
