@@ -135,7 +135,7 @@ void korvexWindow::applySmoothSkinWeights()
         return;
     }
     model_->applySmoothSkinWeights(difference.value, iterations);
-    acted(floodApplyButton_);
+    actedIfWritten(floodApplyButton_);
 }
 
 void korvexWindow::applySkinPaintSmooth()
@@ -144,7 +144,7 @@ void korvexWindow::applySkinPaintSmooth()
     if (!value.isValid)
         return;
     model_->applySkinPaintSmooth(value.value);
-    acted(floodApplyButton_);
+    actedIfWritten(floodApplyButton_);
 }
 
 void korvexWindow::replaceValue()
@@ -153,7 +153,7 @@ void korvexWindow::replaceValue()
     if (!value.isValid)
         return;
     model_->replaceValue(value.value);
-    acted(floodApplyButton_);
+    actedIfWritten(floodApplyButton_);
 }
 
 // What opacity leaves of the value. Says so if there is none.

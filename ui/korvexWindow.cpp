@@ -43,36 +43,47 @@ void korvexWindow::acted(QWidget *control)
     keyboardUndo_.acted(control);
 }
 
+bool korvexWindow::actedIfWritten(QWidget *control)
+{
+    const int newest = model_->trail().newestEffective();
+    const bool hasWritten = newest != newestEdit_;
+    newestEdit_ = newest;
+    if (hasWritten)
+        acted(control);
+    return hasWritten;
+}
+
 bool korvexWindow::eventFilter(QObject *watched, QEvent *event)
 {
     const bool isPress = event->type() == QEvent::KeyPress;
     if (!isPress && event->type() != QEvent::ShortcutOverride)
         return QMainWindow::eventFilter(watched, event);
     QKeyEvent &key = *static_cast<QKeyEvent *>(event);
-    if (!isPress && keyboardUndo_.isAboutToHandle(key)) {
+    const bool isTyped = isTypedOverCells(watched, key);
+    if (!isPress && (isTyped || keyboardUndo_.isAboutToHandle(key))) {
         key.accept(); // else Maya's own shortcut takes it, and no press comes
         return true;
     }
     if (isPress && keyboardUndo_.handle(key))
         return true;
-    if (isPress && watched == tableView_ && tableView_->hasFocus() && typeIntoTable(key))
+    if (isPress && isTyped) {
+        // Also where no cell can be edited: the view would look for one that begins with the key.
+        typeIntoSelection(key, *tableView_, *model_);
         return true;
+    }
     return QMainWindow::eventFilter(watched, event);
 }
 
-// Also where no cell can be edited: the view would look for one that begins with the key.
-bool korvexWindow::typeIntoTable(QKeyEvent &key)
+bool korvexWindow::isTypedOverCells(const QObject *watched, const QKeyEvent &key) const
 {
-    if (!beginsTyping(key) || !tableView_->selectionModel()->hasSelection())
-        return false;
-    typeIntoSelection(key, *tableView_, *model_);
-    return true;
+    return watched == tableView_ && tableView_->hasFocus() && beginsTyping(key) &&
+           tableView_->selectionModel()->hasSelection();
 }
 
 void korvexWindow::tableEdited()
 {
     alignValueRow();
-    acted(tableView_);
+    actedIfWritten(tableView_);
 }
 
 void korvexWindow::tableCellSelected(const QModelIndex &index)

@@ -132,6 +132,8 @@ private:
 
     // Every control that has acted comes by here, afterwards.
     void acted(QWidget *control);
+    // The same for one that was to write weights, if it has. Whether it has.
+    bool actedIfWritten(QWidget *control);
 
     // undoSteps.cpp
     void watchKeys();
@@ -142,7 +144,7 @@ private:
     void showPrecision(int digits);
     void checkMode(bool isAbsolute);
 
-    bool typeIntoTable(QKeyEvent &key);
+    bool isTypedOverCells(const QObject *watched, const QKeyEvent &key) const;
     bool takePrecision(int digits);
     bool setModelPrecision(int digits);
 
@@ -166,6 +168,7 @@ private:
 
     // Beside each control stands what it was before it last acted.
     keyboardUndo keyboardUndo_;
+    int newestEdit_ = 0; // of weights, when a control last asked
 
     QLineEdit *maxInfluenceEdit_ = nullptr;
     QPushButton *applyInfluenceButton_ = nullptr;
@@ -196,7 +199,6 @@ private:
     QSlider *valueSlider_ = nullptr;
     bool isAbsolute_ = false;
     bool wasAbsolute_ = false;
-    bool isDragAnswered_ = false; // by updateSliderValue(), while the model drags
 
     std::unique_ptr<operationCommands> commands_; // nothing here executes them
 };

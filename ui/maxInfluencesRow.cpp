@@ -56,5 +56,5 @@ void korvexWindow::setMaxValue()
 void korvexWindow::applyMaxInfluence()
 {
     model_->applyMaxInfluence();
-    acted(applyInfluenceButton_);
+    actedIfWritten(applyInfluenceButton_);
 }

@@ -83,5 +83,5 @@ bool korvexWindow::setModelPrecision(int digits)
 void korvexWindow::applyPrecision()
 {
     model_->applyPrecision();
-    acted(roundButton_);
+    actedIfWritten(roundButton_);
 }

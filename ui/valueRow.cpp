@@ -46,7 +46,9 @@ QSlider *createSlider()
 {
     QSlider *slider = new QSlider(Qt::Horizontal);
     slider->setObjectName(QLatin1String("valueSlider"));
-    slider->setToolTip(QLatin1String("Sets or moves the selected weights when it is released."));
+    slider->setToolTip(
+        QLatin1String("Sets or moves the selected weights when its handle is let go of. "
+                      "Keys and the wheel only fill the edit."));
     slider->setFixedWidth(kSliderWidth);
     slider->setTickPosition(QSlider::TicksBothSides);
     return slider;
@@ -190,20 +192,16 @@ bool korvexWindow::canDrag()
     return false;
 }
 
-// Nothing that the model refuses is left standing in the row as if it were so.
+// Nothing that was not written is left standing in the row as if it were so.
 void korvexWindow::drag(double value, QWidget *control)
 {
-    isDragAnswered_ = false;
     model_->dragSlider(value, isAbsolute_);
-    if (isDragAnswered_)
-        acted(control);
-    else
+    if (!actedIfWritten(control))
         alignValueRow();
 }
 
 void korvexWindow::updateSliderValue(double newValue, double, double)
 {
-    isDragAnswered_ = true;
     if (isAbsolute_)
         showInValueRow(nearestStep(newValue, stepsPerUnit(precisionDigits_)),
                        fixedText(newValue, precisionDigits_));

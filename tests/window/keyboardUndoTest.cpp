@@ -281,6 +281,50 @@ TEST_F(keyboardUndo, isAboutTheLastControlOnly)
     EXPECT_EQ(state(), typedAgain);
 }
 
+// What refuses has not acted: the way back is still that of the control before.
+TEST_F(keyboardUndo, isNotAboutAControlThatHasRefused)
+{
+    clickCell(1, 0);
+    typeKeys("0.7");
+    const std::string typed = weights(0);
+    smoothBy(2);
+    const struct {
+        const char *what;
+        std::function<void()> act;
+    } refusals[] = {
+        {"flooding without a column", [this] { click("Apply"); }},
+        {"a typed value", [this] { typeKeys("7"); }},
+        {"limiting what is below the maximum", [this] { click("ApplyInfluence"); }},
+        {"a drag of locked cells",
+         [this] {
+             call("lockCell");
+             dragTo("valueSlider", 100);
+         }},
+    };
+    for (const auto &each : refusals) {
+        click("Filter");
+        each.act();
+        takeErrors();
+        infos_.take();
+        press(Qt::Key_Z);
+        EXPECT_EQ(weights(0) + hiddenColumns(), typed) << each.what;
+    }
+}
+
+// A way back that was refused is still there.
+TEST_F(keyboardUndo, triesAgainWhatWasRefused)
+{
+    enter("precisionEdit", "0.01");
+    const std::string coarse = shown(3);
+    selectCells(1, 0, 1, 0);
+    call("lockCell");
+    press(Qt::Key_Z);
+    EXPECT_EQ(takeErrors() + shown(3), kPrecisionWhileLocked + coarse);
+    call("unlockCell");
+    press(Qt::Key_Z);
+    EXPECT_NE(shown(3), coarse);
+}
+
 TEST_F(keyboardUndo, showsWhatIsInTheSceneWhenALoadIsTakenBack)
 {
     mel("select -r body.vtx[1]");
@@ -335,27 +379,29 @@ TEST_F(keyboardUndo, answersOnEveryControl)
 TEST_F(keyboardUndo, takesTheKeysFromMayaOnlyWhereItHasSomethingToDo)
 {
     int taken = 0;
-    QAction undo, redo;
+    QAction undo, redo, smoothness;
     undo.setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
     redo.setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Y));
-    for (QAction *action : {&undo, &redo}) {
+    smoothness.setShortcut(QKeySequence(Qt::Key_0));
+    for (QAction *action : {&undo, &redo, &smoothness}) {
         QObject::connect(action, &QAction::triggered, [&taken] { ++taken; });
         window_->addAction(action);
     }
     view_->setFocus();
     press(Qt::Key_Z);
     press(Qt::Key_Y);
-    EXPECT_EQ(taken, 2);
+    QTest::keyClick(view_, Qt::Key_0);
+    EXPECT_EQ(taken, 3);
     clickCell(1, 0);
     typeKeys("0.7");
     press(Qt::Key_Y);
-    EXPECT_EQ(taken, 3) << "nothing was taken back yet";
+    EXPECT_EQ(taken, 4) << "nothing was taken back yet";
     EXPECT_EQ(weights(0), "0.7 0.18 0.12 0");
     QTest::keyClick(view_, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(weights(0), "0.7 0.18 0.12 0");
     press(Qt::Key_Z);
     press(Qt::Key_Y);
     press(Qt::Key_Z);
-    EXPECT_EQ(taken, 3);
+    EXPECT_EQ(taken, 4);
     EXPECT_EQ(weights(0), "0.5 0.3 0.2 0");
 }
