@@ -44,8 +44,6 @@ void korvexWindow::buildUndoTable()
     } rows[] = {
         {maxInfluenceEdit_, [this] { showMaximum(lastMaxInfluence_); },
          [this] { showMaximum(newMaxInfluence_); }},
-        {precisionEdit_, [this] { showPrecision(lastPrecisionDigits_); },
-         [this] { showPrecision(newPrecisionDigits_); }},
         {loadButton_, load, load},
         {filterButton_, filter, filter},
         {highlightButton_, highlight, highlight},
@@ -56,6 +54,10 @@ void korvexWindow::buildUndoTable()
     };
     for (const auto &row : rows)
         keyboardUndo_.add(row.control, keyboardUndo::oneStep, row.undo, row.redo);
+    // One step as well, but locks may refuse it; then it can be tried again.
+    keyboardUndo_.add(
+        precisionEdit_, keyboardUndo::manySteps, [this] { showPrecision(lastPrecisionDigits_); },
+        [this] { showPrecision(newPrecisionDigits_); });
     addFloodRowsToUndo();
     addWeightsToUndo();
 }
