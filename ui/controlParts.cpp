@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ui/controlParts.h"
 
-#include <QFont>
 #include <QFontInfo>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -59,14 +58,20 @@ QHBoxLayout *createEditRow(const char *label, QLineEdit *edit, int distance, QPu
     return row;
 }
 
+QFont fittedFont(QFont font, const std::function<bool(const QFont &)> &fits)
+{
+    int height = QFontInfo(font).pixelSize();
+    while (height > kSmallestFont && !fits(font))
+        font.setPixelSize(--height);
+    return font;
+}
+
 void fitFont(QWidget *widget, int width)
 {
-    QFont font = widget->font();
-    int height = QFontInfo(font).pixelSize();
-    while (height > kSmallestFont && widget->sizeHint().width() > width) {
-        font.setPixelSize(--height);
+    widget->setFont(fittedFont(widget->font(), [widget, width](const QFont &font) {
         widget->setFont(font);
-    }
+        return widget->sizeHint().width() <= width;
+    }));
 }
 
 QFrame *createSeparator()

@@ -5,7 +5,9 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 
+#include <QFont>
 #include <QObject>
 
 class QFrame;
@@ -44,7 +46,10 @@ QLabel *createLabel(const char *text, QWidget *control);
 // An edit behind its label, and at a distance the button that acts on what it says.
 QHBoxLayout *createEditRow(const char *label, QLineEdit *edit, int distance, QPushButton *button);
 
-// Makes the font smaller until what the widget shows fits into so many pixels.
+// The font, made smaller until it `fits`, though not illegibly small.
+QFont fittedFont(QFont font, const std::function<bool(const QFont &)> &fits);
+
+// Gives the widget the font with which what it shows fits into so many pixels.
 void fitFont(QWidget *widget, int width);
 
 QFrame *createSeparator();

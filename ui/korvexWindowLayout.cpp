@@ -3,8 +3,6 @@
 #include "ui/korvexWindow.h"
 
 #include <QAction>
-#include <QFont>
-#include <QFontInfo>
 #include <QFontMetrics>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -25,19 +23,14 @@ namespace
 const int kRowHeight = 21;
 const int kNarrowestColumn = 20;
 const int kCellMargins = 11; // both sides together, as item views leave them
-const int kSmallestFont = 7;
 const int kMargin = 15;
 const int kSpacing = 5;
 
-// The font, made smaller until a weight with three decimals fits into a column.
-QFont weightFont(QFont font)
+// Whether a weight with three decimals fits into a column.
+bool fitsColumn(const QFont &font)
 {
     const int room = jointColumnWidth(3) - kCellMargins;
-    int height = QFontInfo(font).pixelSize();
-    const QString widest = QLatin1String("0.000");
-    while (height > kSmallestFont && QFontMetrics(font).boundingRect(widest).width() > room)
-        font.setPixelSize(--height);
-    return font;
+    return QFontMetrics(font).boundingRect(QLatin1String("0.000")).width() <= room;
 }
 
 } // namespace
@@ -50,7 +43,7 @@ void korvexWindow::buildTable()
     model_ = new weightTableModel(this);
     tableView_->setModel(model_);
     model_->setView(tableView_);
-    tableView_->setFont(weightFont(tableView_->font()));
+    tableView_->setFont(fittedFont(tableView_->font(), fitsColumn));
     tableView_->setWordWrap(false);
     tableView_->verticalHeader()->setMinimumSectionSize(kRowHeight);
     tableView_->verticalHeader()->setDefaultSectionSize(kRowHeight);
