@@ -38,6 +38,11 @@ void WindowScene::clickCell(int row, int column, Qt::KeyboardModifiers modifiers
     QTest::mouseClick(view_->viewport(), Qt::LeftButton, modifiers, centre);
 }
 
+bool WindowScene::isLocked(int row, int column) const
+{
+    return !(model_->flags(model_->index(row, column)) & Qt::ItemIsEditable);
+}
+
 void WindowScene::dragTo(const char *name, int step)
 {
     QSlider &slider = control<QSlider>(name);

@@ -31,6 +31,8 @@ protected:
     void click(const char *button);
     void clickCell(int row, int column, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
+    bool isLocked(int row, int column) const;
+
     // Drags the handle to a step and lets go of it there.
     void dragTo(const char *slider, int step);
     int stepOf(const char *slider);

@@ -29,10 +29,6 @@ protected:
                                   menu.actionGeometry(action).center());
         }
     }
-    bool isLocked(int row, int column) const
-    {
-        return !(model_->flags(model_->index(row, column)) & Qt::ItemIsEditable);
-    }
 };
 
 TEST_F(contextMenu, locksAndUnlocksTheSelectedCells)

@@ -141,7 +141,7 @@ std::string keyboardUndo::state(detail shown) const
         const QVariant mark = model_->headerData(row, Qt::Vertical, Qt::BackgroundRole);
         text << mark.value<QBrush>().color().name().toStdString();
         for (int column = 0; column < model_->columnCount(); ++column)
-            text << (model_->flags(model_->index(row, column)) & Qt::ItemIsEditable ? " ." : " #");
+            text << (isLocked(row, column) ? " #" : " .");
         text << '\n';
     }
     for (int vertex = 0; vertex < 4; ++vertex)

@@ -186,9 +186,6 @@ TEST_F(windowLayout, loadsFiltersAndHighlightsByItsButtons)
 TEST_F(windowLayout, locksAndUnlocksByItsButtons)
 {
     loadBody();
-    const auto isLocked = [this](int row, int column) {
-        return !(model_->flags(model_->index(row, column)) & Qt::ItemIsEditable);
-    };
     selectColumn(1);
     click("Lock");
     EXPECT_TRUE(isLocked(3, 1));
