@@ -66,6 +66,12 @@ Call beginCall(const MFnBase &functionSet, const MDagPath &path, const MObject &
     return call;
 }
 
+// Null for an empty array.
+double *dataOf(MDoubleArray &array)
+{
+    return array.length() > 0 ? &array[0] : nullptr;
+}
+
 // Weights of some influences (physical indices), vertex by vertex.
 MStatus readColumns(const Call &call, const std::vector<int> &columns, MDoubleArray &weights)
 {
@@ -89,21 +95,22 @@ MStatus readColumns(const Call &call, const std::vector<int> &columns, MDoubleAr
 }
 
 MStatus writeColumns(const Call &call, const std::vector<int> &columns,
-                     const std::vector<double> &values, bool normalize, MDoubleArray *oldValues)
+                     const SkinCluster::Values &values, bool normalize, MDoubleArray *oldValues)
 {
     if (!call.status)
         return call.status;
-    std::vector<double> old;
+    const SkinCluster::PlaceForOld placeForOld = [oldValues](std::size_t count) {
+        oldValues->setLength(static_cast<unsigned int>(count));
+        return dataOf(*oldValues);
+    };
     host::SkinWriteResult result;
     const MStatus status = host::quietly(MStatus::kInvalidParameter, [&] {
         const host::RecordingPause pause(*call.node->scene());
         result = SkinCluster(call.node).write(call.vertices, columns, values, normalize,
-                                              oldValues ? &old : nullptr);
+                                              oldValues ? placeForOld : nullptr);
     });
     if (!status)
         return status;
-    if (oldValues)
-        *oldValues = MDoubleArray(old.data(), static_cast<unsigned int>(old.size()));
     if (result.couldNotSet)
         host::showWarning(host::skin::kWeightTotalWarning);
     if (result.locksPreventedMax)
@@ -114,13 +121,6 @@ MStatus writeColumns(const Call &call, const std::vector<int> &columns,
 std::vector<int> toVector(const MIntArray &array)
 {
     std::vector<int> list(array.length());
-    array.get(list.data());
-    return list;
-}
-
-std::vector<double> toVector(const MDoubleArray &array)
-{
-    std::vector<double> list(array.length());
     array.get(list.data());
     return list;
 }
@@ -147,8 +147,7 @@ MStatus MFnSkinCluster::getWeights(const MDagPath &path, const MObject &componen
     const SkinCluster cluster(call.node);
     influenceCount = static_cast<unsigned int>(cluster.influences().size());
     weights.setLength(static_cast<unsigned int>(call.vertices.size()) * influenceCount);
-    if (weights.length() > 0)
-        cluster.read(call.vertices, &weights[0]);
+    cluster.read(call.vertices, dataOf(weights));
     return MStatus::kSuccess;
 }
 
@@ -163,7 +162,7 @@ MStatus MFnSkinCluster::setWeights(const MDagPath &path, const MObject &componen
                                    MDoubleArray *oldValues)
 {
     const int column = static_cast<int>(std::min(jointIndex, ~0u >> 1));
-    return writeColumns(beginCall(*this, path, components), {column}, {value}, normalize,
+    return writeColumns(beginCall(*this, path, components), {column}, {&value, 1}, normalize,
                         oldValues);
 }
 
@@ -171,8 +170,12 @@ MStatus MFnSkinCluster::setWeights(const MDagPath &path, const MObject &componen
                                    MIntArray &influenceIndices, MDoubleArray &values,
                                    bool normalize, MDoubleArray *oldValues)
 {
+    MDoubleArray copy;
+    if (oldValues == &values)
+        copy = values;
+    MDoubleArray &read = oldValues == &values ? copy : values;
     return writeColumns(beginCall(*this, path, components), toVector(influenceIndices),
-                        toVector(values), normalize, oldValues);
+                        {dataOf(read), read.length()}, normalize, oldValues);
 }
 
 // Vertices with a weight for the influence, and these weights.

@@ -2,6 +2,7 @@
 #include "scene/skinCluster.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "scene/scene.h"
 #include "scene/transform.h"
@@ -48,7 +49,7 @@ std::vector<skin::BindInfluence> bindInfluences(const SkinCluster &cluster)
 }
 
 void checkWrite(const SkinCluster &cluster, const std::vector<int> &vertices,
-                const std::vector<int> &indices, const std::vector<double> &values)
+                const std::vector<int> &indices, const SkinCluster::Values &values)
 {
     const int count = int(cluster.influences().size());
     const bool indicesFit =
@@ -58,10 +59,10 @@ void checkWrite(const SkinCluster &cluster, const std::vector<int> &vertices,
         return v >= 0 && std::size_t(v) < vertexCount;
     });
     const bool lengthFits =
-        values.size() == indices.size() || values.size() == indices.size() * vertices.size();
+        values.count == indices.size() || values.count == indices.size() * vertices.size();
     if (!indicesFit || !verticesFit || !lengthFits)
         throw Error("Weights do not fit the skin cluster " + cluster.node()->uniqueName());
-    if (!std::all_of(values.begin(), values.end(), skin::isWritable))
+    if (!std::all_of(values.first, values.first + values.count, skin::isWritable))
         throw Error("A weight is not a number.");
 }
 
@@ -191,16 +192,13 @@ std::vector<double> SkinCluster::createWeights(const BindPose &pose, int vertex,
 }
 
 SkinWriteResult SkinCluster::write(const std::vector<int> &vertices,
-                                   const std::vector<int> &indices,
-                                   const std::vector<double> &values, bool normalize,
-                                   std::vector<double> *oldWeights) const
+                                   const std::vector<int> &indices, const Values &values,
+                                   bool normalize, const PlaceForOld &placeForOld) const
 {
     checkWrite(*this, vertices, indices, values);
     const std::size_t columns = influences_.size();
-    if (oldWeights) {
-        oldWeights->resize(vertices.size() * columns);
-        read(vertices, oldWeights->data());
-    }
+    if (placeForOld)
+        read(vertices, placeForOld(vertices.size() * columns));
     std::vector<skin::Assignment> assignments;
     for (const int index : indices)
         assignments.push_back({std::size_t(index), 0.0});
@@ -208,7 +206,7 @@ SkinWriteResult SkinCluster::write(const std::vector<int> &vertices,
         vertices,
         [&](std::size_t place, const RowRule &rule) {
             const double *row =
-                values.data() + (values.size() == indices.size() ? 0 : place * indices.size());
+                values.first + (values.count == indices.size() ? 0 : place * indices.size());
             for (std::size_t i = 0; i < assignments.size(); ++i)
                 assignments[i].value = row[i];
             return skin::writeWeights(rule.weights, columns, assignments.data(), assignments.size(),
@@ -224,33 +222,38 @@ SkinWriteResult SkinCluster::edit(const std::vector<int> &vertices, const RowEdi
     const std::vector<bool> locked = locks();
     const skin::WriteSettings rules = settings(normalize);
     std::shared_ptr<const BindPose> pose;
-    std::vector<double> row(columns);
-    std::vector<std::size_t> rows;
-    std::vector<std::vector<skin::Entry>> newRows;
+    std::vector<double> dense(columns);
+    std::vector<skin::Entry> row;
+    const WeightStore &before = *node_->weights();
+    WeightStore after = before;
     skin::WriteOutcome outcome;
     for (std::size_t place = 0; place < vertices.size(); ++place) {
         const int vertex = vertices[place];
-        read({vertex}, row.data());
+        const auto number = std::size_t(vertex);
+        before.readDense(number, number + 1, columnOfLogical_, columns, dense.data());
         const skin::CreateWeights create = [&](const std::vector<std::size_t> &free) {
             if (!pose)
                 pose = bindPose();
             return createWeights(*pose, vertex, free);
         };
-        outcome |= change(place, RowRule{row.data(), locked, rules, create});
-        rows.push_back(std::size_t(vertex));
-        newRows.push_back(sparseRow(std::size_t(vertex), row.data()));
+        outcome |= change(place, RowRule{dense.data(), locked, rules, create});
+        makeSparse(before.row(number), dense.data(), row);
+        after.setRow(number, row);
     }
-    node_->scene()->setWeightRows(node_, rows, newRows);
+    node_->scene()->setWeights(node_, std::move(after));
     return {outcome.couldNotSet, outcome.locksPreventedMax};
 }
 
 void SkinCluster::store(const std::vector<int> &vertices, const double *dense) const
 {
-    std::vector<std::size_t> rows(vertices.begin(), vertices.end());
-    std::vector<std::vector<skin::Entry>> newRows;
-    for (std::size_t i = 0; i < rows.size(); ++i)
-        newRows.push_back(sparseRow(rows[i], dense + i * influences_.size()));
-    node_->scene()->setWeightRows(node_, rows, newRows);
+    WeightStore after = *node_->weights();
+    std::vector<skin::Entry> row;
+    for (const int vertex : vertices) {
+        makeSparse(node_->weights()->row(std::size_t(vertex)), dense, row);
+        after.setRow(std::size_t(vertex), row);
+        dense += influences_.size();
+    }
+    node_->scene()->setWeights(node_, std::move(after));
 }
 
 void SkinCluster::visitBindWeights(const std::vector<int> &vertices,
@@ -266,23 +269,23 @@ void SkinCluster::visitBindWeights(const std::vector<int> &vertices,
 }
 
 // Weights of former influences, whose logical index has no column, stay in the row.
-std::vector<skin::Entry> SkinCluster::sparseRow(std::size_t vertex, const double *dense) const
+void SkinCluster::makeSparse(const skin::RowView &before, const double *dense,
+                             std::vector<skin::Entry> &row) const
 {
-    std::vector<skin::Entry> entries;
-    for (const skin::Entry &entry : node_->weights()->row(vertex)) {
+    row.clear();
+    for (const skin::Entry &entry : before) {
         if (entry.influence >= columnOfLogical_.size() || columnOfLogical_[entry.influence] < 0)
-            entries.push_back(entry);
+            row.push_back(entry);
     }
-    const std::size_t kept = entries.size();
+    const std::size_t kept = row.size();
     for (std::size_t i = 0; i < influences_.size(); ++i) {
         if (dense[i] != 0.0)
-            entries.push_back({influences_[i].logicalIndex, dense[i]});
+            row.push_back({influences_[i].logicalIndex, dense[i]});
     }
     if (kept > 0)
-        std::sort(entries.begin(), entries.end(), [](const skin::Entry &a, const skin::Entry &b) {
+        std::sort(row.begin(), row.end(), [](const skin::Entry &a, const skin::Entry &b) {
             return a.influence < b.influence;
         });
-    return entries;
 }
 
 } // namespace host

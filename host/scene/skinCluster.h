@@ -49,13 +49,22 @@ public:
     // vertices.size() * influences().size() places.
     void read(const std::vector<int> &vertices, double *out) const;
 
-    // Gives each vertex the values: `values` has one row for all vertices, or one per vertex, with
-    // a column per entry of `indices`. Follows the write rule with locks and settings. `oldWeights`
-    // (may be null) gets the dense weights from before. Throws Error on an index or length that
-    // does not fit and on NaN; then nothing is written. Recorded when the scene records.
+    // Values to write, in memory of the caller's: the weights of a whole mesh are not copied.
+    struct Values {
+        Values(const std::vector<double> &values) : first(values.data()), count(values.size()) {}
+        Values(const double *begin, std::size_t size) : first(begin), count(size) {}
+        const double *first;
+        std::size_t count;
+    };
+    // Where the dense weights from before go; asked once, when it is known that all fits.
+    using PlaceForOld = std::function<double *(std::size_t count)>;
+    // Gives each vertex the values: one row for all vertices, or one per vertex, with a column per
+    // entry of `indices`. Follows the write rule with locks and settings. Throws Error on an index
+    // or length that does not fit and on NaN; then nothing is written. Recorded when the scene
+    // records. REQUIRES: the values stay where they are when the place is asked for.
     SkinWriteResult write(const std::vector<int> &vertices, const std::vector<int> &indices,
-                          const std::vector<double> &values, bool normalize,
-                          std::vector<double> *oldWeights = nullptr) const;
+                          const Values &values, bool normalize,
+                          const PlaceForOld &placeForOld = nullptr) const;
 
     // Replaces dense rows (a column per influence) as they are, no rule applied. Recorded.
     void store(const std::vector<int> &vertices, const double *rows) const;
@@ -85,7 +94,8 @@ private:
     std::shared_ptr<const BindPose> bindPose() const;
     std::vector<double> createWeights(const BindPose &pose, int vertex,
                                       const std::vector<std::size_t> &free) const;
-    std::vector<skin::Entry> sparseRow(std::size_t vertex, const double *dense) const;
+    void makeSparse(const skin::RowView &before, const double *dense,
+                    std::vector<skin::Entry> &row) const;
 
     NodePtr node_;
     std::vector<Influence> influences_;
