@@ -70,7 +70,8 @@ QVector<int> weightTableModel::rowsChosenForLimit() const
     return rows;
 }
 
-// Deliberate: the header is told also of a table without rows, whose last row is -1.
+// Deliberate: the header is told also of a table without rows, whose last row is -1. Pinned by the
+// test maxInfluences.goesBackToTheMaximumBefore.
 void weightTableModel::undoMaxInfluence()
 {
     settings_.maxInfluences = previousMaxInfluences_;

@@ -2,6 +2,8 @@
 //
 // Limiting the influences per vertex.
 
+#include <QSignalSpy>
+
 #include "model/messages.h"
 #include "support/editScene.h"
 
@@ -96,6 +98,30 @@ TEST_F(maxInfluences, refusesLockedRowsButNotThoseBehindThem)
     limit(1);
     EXPECT_EQ(infos_.take(), kRowIsLocked);
     EXPECT_EQ(weights(0), "0.4 0.3 0.2 0.1");
+}
+
+TEST_F(maxInfluences, goesBackToTheMaximumBefore)
+{
+    QSignalSpy headers(model_, SIGNAL(headerDataChanged(Qt::Orientation, int, int)));
+    const auto told = [&headers] {
+        const QList<QVariant> last = headers.takeLast();
+        headers.clear();
+        return std::to_string(last.at(1).toInt()) + " to " + std::to_string(last.at(2).toInt());
+    };
+    const auto isMarked = [this](int row) {
+        return model_->headerData(row, Qt::Vertical, Qt::BackgroundRole).isValid();
+    };
+    call("setMaxValue", 3);
+    EXPECT_EQ(told(), "0 to 4");
+    EXPECT_TRUE(isMarked(1));
+    call("undoMaxInfluence");
+    EXPECT_EQ(told(), "0 to 4");
+    EXPECT_FALSE(isMarked(1));
+    mel("select -cl");
+    load();
+    call("undoMaxInfluence");
+    EXPECT_EQ(told(), "0 to -1");
+    EXPECT_EQ(takeErrors(), kNothingToUndo);
 }
 
 TEST_F(maxInfluences, keepsUnnormalizedClustersSwitchedOff)
