@@ -110,6 +110,6 @@ void weightTableModel::applySkinPaintSmooth(double value)
     handOver_.paintOpacity = value;
     runEdit("-skinPaintSmooth");
 
-    refreshRowsEditedAt(chosen.rows, -1);
+    refreshRowsEditedAt(chosen.rows, chosen.column);
     showFilteredColumns();
 }

@@ -70,6 +70,16 @@ TEST_F(paintSmooth, drawsTheJointTowardsItsNeighbours)
     EXPECT_EQ(weights(0), "0.2 0.8 0") << "counted, not painted";
 }
 
+TEST_F(paintSmooth, leavesTheRoundingToTheOtherJoints)
+{
+    makeSkin("body", {"hip", "knee"}, {{1, 0}, {0, 1}, {0.501, 0.499}, {0.5, 0.5}});
+    load("body");
+    selectCells(1, 0, 1, 0);
+    paint(0.499666);
+    EXPECT_EQ(weights(0), "0.6255 0.3745");
+    EXPECT_EQ(shown(1), "0.626 0.374");
+}
+
 TEST_F(paintSmooth, paintsAWholeColumnOfAllItsShapesInOneStep)
 {
     loadStrip();
