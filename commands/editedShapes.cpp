@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "commands/editedShapes.h"
 
-#include "commands/vertexComponents.h"
+#include "model/vertexComponents.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "commands/shapeWriter.h"
 
-#include "commands/vertexComponents.h"
 #include "model/mayaText.h"
 #include "model/messages.h"
+#include "model/vertexComponents.h"
 
 #include <maya/MGlobal.h>
 

@@ -5,9 +5,9 @@
 #include "model/mayaText.h"
 #include "model/messages.h"
 #include "model/shapeReader.h"
+#include "model/vertexComponents.h"
 
 #include <maya/MDoubleArray.h>
-#include <maya/MFnSingleIndexedComponent.h>
 #include <maya/MFnSkinCluster.h>
 #include <maya/MGlobal.h>
 #include <maya/MIntArray.h>
@@ -76,10 +76,7 @@ public:
         }
         if (influences.length() != values.length())
             return false;
-        MFnSingleIndexedComponent component;
-        const MObject vertices = component.create(MFn::kMeshVertComponent);
-        component.addElement(vertex);
-        MFnSkinCluster(skinCluster_).setWeights(path_, vertices, influences, values, true);
+        MFnSkinCluster(skinCluster_).setWeights(path_, oneVertex(vertex), influences, values, true);
         return true;
     }
 

@@ -7,11 +7,10 @@
 
 #include "model/messages.h"
 #include "model/tableSelection.h"
+#include "model/vertexComponents.h"
 #include "plugin/sceneCallbacks.h"
 
-#include <maya/MFnSingleIndexedComponent.h>
 #include <maya/MGlobal.h>
-#include <maya/MIntArray.h>
 #include <maya/MSelectionList.h>
 
 namespace
@@ -28,14 +27,6 @@ void redrawMaya()
     MGlobal::executeCommand("refresh");
 }
 
-MObject vertexComponent(MIntArray &vertices)
-{
-    MFnSingleIndexedComponent component;
-    const MObject object = component.create(MFn::kMeshVertComponent);
-    component.addElements(vertices);
-    return object;
-}
-
 // The vertices of the vertex rows among `rows`, one item per run of rows of the same shape.
 MSelectionList verticesOfRows(const weightList &weights, const QVector<int> &rows)
 {
@@ -46,11 +37,11 @@ MSelectionList verticesOfRows(const weightList &weights, const QVector<int> &row
             ++i;
             continue;
         }
-        MIntArray vertices;
+        QVector<int> vertices;
         const int end = weights.endOfVertexRows(shape);
         for (; i < rows.size() && rows.at(i) < end; ++i)
             vertices.append(weights.rowNames.vertex(rows.at(i)));
-        selection.add(weights.shapePaths[shape], vertexComponent(vertices));
+        selection.add(weights.shapePaths[shape], componentOf(vertices));
     }
     return selection;
 }

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "model/shapeReader.h"
 
+#include "model/vertexComponents.h"
+
 #include <maya/MDagPath.h>
 #include <maya/MDagPathArray.h>
 #include <maya/MFnSingleIndexedComponent.h>
 #include <maya/MFnSkinCluster.h>
-#include <maya/MIntArray.h>
 #include <maya/MItGeometry.h>
 #include <maya/MItMeshVertex.h>
 
@@ -29,25 +30,6 @@ QVector<int> loadedVertices(const MDagPath &shape, const MObject &component)
     return vertices;
 }
 
-MObject allVertices(const MDagPath &shape)
-{
-    MFnSingleIndexedComponent component;
-    const MObject object = component.create(MFn::kMeshVertComponent);
-    component.setCompleteData(MItMeshVertex(shape).count());
-    return object;
-}
-
-MObject componentOf(const QVector<int> &vertices)
-{
-    MIntArray elements;
-    for (int i = 0; i < vertices.size(); ++i)
-        elements.append(vertices.at(i));
-    MFnSingleIndexedComponent component;
-    const MObject object = component.create(MFn::kMeshVertComponent);
-    component.addElements(elements);
-    return object;
-}
-
 } // namespace
 
 QVector<int> columnsOfInfluences(const MObject &skinCluster, const weightList &weights)
@@ -68,7 +50,7 @@ shapeReader::shapeReader(const weightList &weights, int shape)
     const MDagPath &path = weights.shapePaths[shape];
     const MObject &component = weights.shapeComponents[shape];
     read(weights, shape, loadedVertices(path, component),
-         component.isNull() ? allVertices(path) : component);
+         component.isNull() ? allVertices(MItMeshVertex(path).count()) : component);
 }
 
 shapeReader::shapeReader(const weightList &weights, int shape, const QVector<int> &vertices)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "commands/vertexComponents.h"
+#include "model/vertexComponents.h"
 
 #include <maya/MFnSingleIndexedComponent.h>
 #include <maya/MIntArray.h>
