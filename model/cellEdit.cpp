@@ -3,6 +3,7 @@
 #include "model/weightTableModel.h"
 
 #include "model/messages.h"
+#include "model/tableSelection.h"
 #include "model/typedValue.h"
 
 #include <maya/MGlobal.h>
@@ -22,7 +23,7 @@ bool weightTableModel::setData(const QModelIndex &index, const QVariant &value, 
     const QVector<cellIndex> selected = selectedCells(edited);
     fillPending(typed, selected);
     // The command says what goes wrong. The table then shows what is in the scene.
-    runEdit("-setData");
+    runEdit("-setData", rowsOf(selected));
 
     refreshEditedRows(selected);
     if (edited.row < rowCount() && hasCell(weights_.rows.at(edited.row), edited.column))

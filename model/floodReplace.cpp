@@ -70,11 +70,11 @@ void weightTableModel::replaceValue(double value)
     handOver_.floodShapes.append(shape);
     handOver_.operationColumn = column;
     handOver_.floodValue = boundedWeight(value);
-    runEdit("-replace");
-
     QVector<int> rows;
     for (int row = firstRow; row < weights_.endOfVertexRows(shape); ++row)
         rows.append(row);
+    runEdit("-replace", rows);
+
     refreshRowsEditedAt(rows, column);
     showFilteredColumns();
 }

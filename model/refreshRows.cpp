@@ -11,6 +11,7 @@
 #include <maya/MGlobal.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace
 {
@@ -25,6 +26,15 @@ void sortAndUnite(QVector<int> &rows)
 {
     std::sort(rows.begin(), rows.end());
     rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+}
+
+// Both ascend.
+QVector<int> without(const QVector<int> &left, const QVector<int> &rows)
+{
+    QVector<int> rest;
+    std::set_difference(rows.begin(), rows.end(), left.begin(), left.end(),
+                        std::back_inserter(rest));
+    return rest;
 }
 
 // The vertex rows among `rows`, which ascend.
@@ -81,6 +91,15 @@ bool movesFirstWithoutWeight(const refreshNotes &notes, int row, const weightRow
     return row == first ? hasWeight(weights) : (first < 0 || row < first) && !hasWeight(weights);
 }
 
+// Most of the rows stand for all: that costs nothing more when they are read again.
+void noteOtherwiseRounded(const QVector<int> &rows, int rowCount, refreshNotes &notes)
+{
+    if (rows.size() > rowCount / 2)
+        notes.allOtherwiseRounded = true;
+    for (int i = 0; i < rows.size() && !notes.allOtherwiseRounded; ++i)
+        notes.otherwiseRoundedRows.insert(rows.at(i));
+}
+
 // Each row's joint column that was edited last.
 QHash<int, int> lastColumns(const QVector<cellIndex> &edited)
 {
@@ -99,6 +118,10 @@ void weightTableModel::refreshWritten(const QVector<writtenVertices> &written)
         return;
     }
     refreshNotes &notes = weights_.notes;
+    if (rowsReadAfterwards_.size() == rowCount() - weights_.shapeCount()) {
+        notes.allOtherwiseRounded = true;
+        return;
+    }
     QVector<int> rows;
     for (int i = 0; i < written.size(); ++i)
         appendRowsShowing(written.at(i), weights_, rows);
@@ -106,6 +129,7 @@ void weightTableModel::refreshWritten(const QVector<writtenVertices> &written)
     for (int i = 0; i < others.size(); ++i)
         rows.append(others.at(i));
     sortAndUnite(rows);
+    rows = without(rowsReadAfterwards_, rows);
 
     const bool allChange = notes.allOtherwiseRounded || notes.precision != settings_.precision;
     if (allChange || !refreshListRows(rows))
@@ -206,9 +230,9 @@ void weightTableModel::refreshOneByOne(QVector<int> rows,
             if (movesFirstWithoutWeight(weights_.notes, row, weights))
                 weights_.notes.allOtherwiseRounded = true;
             storeRow(row, weights, sum);
-            weights_.notes.otherwiseRoundedRows.insert(row);
         }
     }
+    noteOtherwiseRounded(rows, rowCount(), weights_.notes);
     announceRows(rows);
     if (!isEachComplete)
         MGlobal::displayError(kNoCellToDeductFrom); // once, however many rows are like that

@@ -3,7 +3,6 @@
 
 #include "model/vertexComponents.h"
 
-#include <maya/MDagPath.h>
 #include <maya/MDagPathArray.h>
 #include <maya/MFnSingleIndexedComponent.h>
 #include <maya/MFnSkinCluster.h>
@@ -30,6 +29,16 @@ QVector<int> loadedVertices(const MDagPath &shape, const MObject &component)
     return vertices;
 }
 
+const int kBlockSize = 4096; // vertices
+
+vertexRowBuilder builderFor(const weightList &weights, int shape)
+{
+    return vertexRowBuilder(shape, weights.jointCount(),
+                            weights.isInScene(shape)
+                                ? columnsOfInfluences(weights.skinClusters[shape], weights)
+                                : QVector<int>());
+}
+
 } // namespace
 
 QVector<int> columnsOfInfluences(const MObject &skinCluster, const weightList &weights)
@@ -43,40 +52,50 @@ QVector<int> columnsOfInfluences(const MObject &skinCluster, const weightList &w
 }
 
 shapeReader::shapeReader(const weightList &weights, int shape)
-    : builder_(shape, weights.jointCount(), QVector<int>())
+    : skinCluster_(weights.skinClusters[shape]), path_(weights.shapePaths[shape]),
+      builder_(builderFor(weights, shape))
 {
     if (!weights.isInScene(shape))
         return;
-    const MDagPath &path = weights.shapePaths[shape];
     const MObject &component = weights.shapeComponents[shape];
-    read(weights, shape, loadedVertices(path, component),
-         component.isNull() ? allVertices(MItMeshVertex(path).count()) : component);
+    vertices_ = loadedVertices(path_, component);
+    if (!read(component.isNull() ? allVertices(MItMeshVertex(path_).count()) : component, 0,
+              vertexCount()))
+        vertices_.clear();
 }
 
+// The last vertex alone tells whether the mesh still has all of them.
 shapeReader::shapeReader(const weightList &weights, int shape, const QVector<int> &vertices)
-    : builder_(shape, weights.jointCount(), QVector<int>())
+    : skinCluster_(weights.skinClusters[shape]), path_(weights.shapePaths[shape]),
+      vertices_(vertices), builder_(builderFor(weights, shape))
 {
-    if (weights.isInScene(shape))
-        read(weights, shape, vertices, componentOf(vertices));
+    const bool canRead = weights.isInScene(shape) && !vertices.isEmpty() &&
+                         read(oneVertex(vertices.last()), vertexCount() - 1, vertexCount()) &&
+                         readBlock(0);
+    if (!canRead)
+        vertices_.clear();
 }
 
-void shapeReader::read(const weightList &weights, int shape, const QVector<int> &vertices,
-                       const MObject &component)
+bool shapeReader::readBlock(int first)
 {
-    const QVector<int> columns = columnsOfInfluences(weights.skinClusters[shape], weights);
+    const int end = qMin(first + kBlockSize, vertexCount());
+    return read(componentOf(vertices_.mid(first, end - first)), first, end);
+}
+
+bool shapeReader::read(const MObject &component, int first, int end)
+{
+    first_ = first;
+    end_ = end;
     const MStatus status =
-        MFnSkinCluster(weights.skinClusters[shape])
-            .getWeights(weights.shapePaths[shape], component, weights_, influenceCount_);
-    if (!status || static_cast<int>(influenceCount_) != columns.size() ||
-        weights_.length() != static_cast<unsigned int>(vertices.size()) * influenceCount_)
-        return;
-    vertices_ = vertices;
-    builder_ = vertexRowBuilder(shape, weights.jointCount(), columns);
+        MFnSkinCluster(skinCluster_).getWeights(path_, component, weights_, influenceCount_);
+    return status && static_cast<int>(influenceCount_) == builder_.influenceCount() &&
+           weights_.length() == static_cast<unsigned int>(end - first) * influenceCount_;
 }
 
 weightRow shapeReader::row(int k, double *sum)
 {
-    const double *first =
-        influenceCount_ > 0 ? &weights_[static_cast<unsigned int>(k) * influenceCount_] : nullptr;
-    return builder_.build(first, sum);
+    if (k < first_ || k >= end_)
+        readBlock(k / kBlockSize * kBlockSize);
+    const unsigned int place = static_cast<unsigned int>(k - first_) * influenceCount_;
+    return builder_.build(influenceCount_ > 0 ? &weights_[place] : nullptr, sum);
 }

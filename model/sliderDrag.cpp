@@ -35,7 +35,7 @@ void weightTableModel::dragSlider(double value, bool absolute)
         const double weight = cellOf(weights_.rows.at(cells.at(i).row), cells.at(i).column);
         handOver_.pendingValues.append(movedWeight(move, weight));
     }
-    runEdit("-dragSlider");
+    runEdit("-dragSlider", rowsOf(cells));
 
     refreshEditedRows(cells);
     emit topRightCellDataChanged(cellOf(weights_.rows.at(lead.row), lead.column), lastValue,
@@ -86,9 +86,10 @@ void weightTableModel::dragSliderColumn(double value, bool absolute)
     keepPreviousWeights();
     handOver_.operationColumn = column;
     handOver_.columnDrag = moveTo(value, absolute, lastValue, origValue);
-    runEdit("-dragSliderColumn");
+    const QVector<int> rows = allVertexRows();
+    runEdit("-dragSliderColumn", rows);
 
-    refreshRowsEditedAt(allVertexRows(), column);
+    refreshRowsEditedAt(rows, column);
     emit topRightCellDataChanged(cellOf(weights_.rows.at(leadRow), column), lastValue, origValue);
     showFilteredColumns();
 }

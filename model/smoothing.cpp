@@ -56,6 +56,7 @@ void weightTableModel::applySmoothSkinWeights(double value, int numIter)
 QVector<int> weightTableModel::smoothWholeMeshes(const QString &value, int iterations)
 {
     const QVector<int> first = weights_.firstWithSkinCluster();
+    const QVector<int> rows = allVertexRows();
     const editAction all(trail_);
     for (int shape = 0; shape < first.size(); ++shape) {
         if (first.at(shape) != shape)
@@ -66,9 +67,9 @@ QVector<int> weightTableModel::smoothWholeMeshes(const QString &value, int itera
         }
         handOver_.smoothedShape = shape;
         handOver_.smoothingScript = smoothingOf(weights_, shape, value, iterations);
-        runEdit("-smoothSkinWeights");
+        runEdit("-smoothSkinWeights", rows);
     }
-    return allVertexRows();
+    return rows;
 }
 
 QVector<int> weightTableModel::smoothSelectedRows(const QString &value, int iterations)
@@ -87,7 +88,7 @@ QVector<int> weightTableModel::smoothSelectedRows(const QString &value, int iter
     handOver_.smoothedShape = -1;
     handOver_.smoothingScript =
         smoothingOfVertices(vertices, smoothingOf(weights_, shape, value, iterations));
-    runEdit("-smoothSkinWeights");
+    runEdit("-smoothSkinWeights", chosen.rows);
     return chosen.rows;
 }
 
@@ -108,7 +109,7 @@ void weightTableModel::applySkinPaintSmooth(double value)
     handOver_.operationColumn = chosen.column;
     handOver_.paintedRows = chosen.rows;
     handOver_.paintOpacity = value;
-    runEdit("-skinPaintSmooth");
+    runEdit("-skinPaintSmooth", chosen.rows);
 
     refreshRowsEditedAt(chosen.rows, chosen.column);
     showFilteredColumns();

@@ -60,6 +60,17 @@ QVector<int> wholeColumns(const QItemSelection &selection, int rowCount)
     return linesWithCells(selection, Qt::Horizontal, rowCount);
 }
 
+QVector<int> rowsOf(const QVector<cellIndex> &cells)
+{
+    QVector<int> rows;
+    rows.reserve(cells.size());
+    for (int i = 0; i < cells.size(); ++i)
+        rows.append(cells.at(i).row);
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
+}
+
 QVector<int> inOrderOfSelecting(const QVector<int> &lines, const QItemSelection &selection,
                                 Qt::Orientation orientation)
 {

@@ -16,6 +16,9 @@ QVector<int> rowsWithSelectedCell(const QItemSelection &selection);
 QVector<int> wholeRows(const QItemSelection &selection, int columnCount);
 QVector<int> wholeColumns(const QItemSelection &selection, int rowCount);
 
+// The rows of the cells, ascending, each once.
+QVector<int> rowsOf(const QVector<cellIndex> &cells);
+
 // The same lines, wholly selected, in the order of selecting.
 QVector<int> inOrderOfSelecting(const QVector<int> &lines, const QItemSelection &selection,
                                 Qt::Orientation orientation);

@@ -5,6 +5,8 @@
 #include "model/mayaText.h"
 #include "model/messages.h"
 
+#include <algorithm>
+
 #include <maya/MGlobal.h>
 #include <maya/MString.h>
 
@@ -48,12 +50,26 @@ void replay(weightTableModel &table, int editCount, const queueSide &side)
     }
 }
 
+// Ascending.
+QVector<int> vertexRowsAmong(const QVector<int> &candidates, const weightRows &rows)
+{
+    QVector<int> found;
+    for (int i = 0; i < candidates.size(); ++i) {
+        if (isVertexRow(rows.at(candidates.at(i))))
+            found.append(candidates.at(i));
+    }
+    std::sort(found.begin(), found.end());
+    return found;
+}
+
 } // namespace
 
-void weightTableModel::runEdit(const char *flag)
+void weightTableModel::runEdit(const char *flag, const QVector<int> &rowsReadAfterwards)
 {
     const editAction action(trail_);
+    rowsReadAfterwards_ = vertexRowsAmong(rowsReadAfterwards, weights_.rows);
     MGlobal::executeCommand(MString("korvexCmd ") + flag, true, true);
+    rowsReadAfterwards_.clear();
 }
 
 void weightTableModel::undoLastAction()

@@ -18,6 +18,8 @@ public:
     // the sum.
     vertexRowBuilder(int shapeIndex, int columnCount, const QVector<int> &columns);
 
+    int influenceCount() const { return static_cast<int>(entries_.size()); }
+
     // The row of a vertex. `weights` points to one weight per influence; `sum` receives their sum.
     weightRow build(const double *weights, double *sum) const;
 

@@ -199,7 +199,9 @@ private:
     friend class lockEdit;
 
     // Has korvexCmd carry out what is handed over: an action, or part of the one that is open.
-    void runEdit(const char *flag);
+    // Runs the command that carries out what was handed over. Rows that the operation itself reads
+    // again afterwards are not read when the command has written.
+    void runEdit(const char *flag, const QVector<int> &rowsReadAfterwards = QVector<int>());
 
     QVariant cellData(const weightRow &row, const cellIndex &cell, int role) const;
     QVariant rowHeaderData(int row, int role) const;
@@ -265,6 +267,7 @@ private:
     double currentCellValue_ = 0.0;
 
     // Guards against reacting to ourselves.
+    QVector<int> rowsReadAfterwards_; // vertex rows, by the operation whose command is running
     bool ignoreNextSelectionChange_ = false;
     bool isMirroring_ = false;
     bool skinPaintSmoothMode_ = false;
