@@ -130,9 +130,9 @@ void scatterWeights()
 double secondsToReadWeights()
 {
     const skinOfSheet skin = findSkin();
-    MDoubleArray weights;
-    unsigned int influences = 0;
     return quickestOf(3, [&] {
+        MDoubleArray weights; // a new one, as whoever reads a mesh has
+        unsigned int influences = 0;
         MFnSkinCluster(skin.skinCluster).getWeights(skin.shape, skin.vertices, weights, influences);
         benchmark::DoNotOptimize(weights[0]);
     });
