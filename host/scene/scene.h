@@ -113,8 +113,9 @@ public:
     // Replaces rows of a skin cluster's weights. rows[k] belongs to vertices[k].
     void setWeightRows(const NodePtr &skinCluster, const std::vector<std::size_t> &vertices,
                        const std::vector<std::vector<skin::WeightStore::Entry>> &rows);
-    // Replaces all of them.
-    void setWeights(const NodePtr &skinCluster, skin::WeightStore weights);
+    // Any other change of the weights.
+    void changeWeights(const NodePtr &skinCluster,
+                       const std::function<void(skin::WeightStore &weights)> &change);
     // The weights for a file reader or the bind, which fill them at once; not recorded.
     skin::WeightStore &editWeights(const NodePtr &skinCluster);
 

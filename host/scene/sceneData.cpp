@@ -359,16 +359,16 @@ void Scene::setState(const Plug &plug, const PlugState &state)
 void Scene::setWeightRows(const NodePtr &skinCluster, const std::vector<std::size_t> &vertices,
                           const std::vector<std::vector<skin::WeightStore::Entry>> &rows)
 {
-    SceneEdit::run(*this, skinCluster->plug("weightList"), [&] {
+    changeWeights(skinCluster, [&](skin::WeightStore &weights) {
         for (std::size_t i = 0; i < vertices.size(); ++i)
-            skinCluster->weights_->setRow(vertices[i], rows[i]);
+            weights.setRow(vertices[i], rows[i]);
     });
 }
 
-void Scene::setWeights(const NodePtr &skinCluster, skin::WeightStore weights)
+void Scene::changeWeights(const NodePtr &skinCluster,
+                          const std::function<void(skin::WeightStore &weights)> &change)
 {
-    SceneEdit::run(*this, skinCluster->plug("weightList"),
-                   [&] { *skinCluster->weights_ = std::move(weights); });
+    SceneEdit::run(*this, skinCluster->plug("weightList"), [&] { change(*skinCluster->weights_); });
 }
 
 skin::WeightStore &Scene::editWeights(const NodePtr &skinCluster)

@@ -104,6 +104,32 @@ SkinCluster::SkinCluster(NodePtr node) : node_(std::move(node))
     }
 }
 
+// Rows to be stored at once, behind each other: a write to 100,000 vertices makes no vector for
+// each of them.
+struct SkinCluster::NewRows {
+    struct End {
+        std::size_t vertex;
+        std::size_t end; // of its entries
+    };
+    std::vector<skin::Entry> entries;
+    std::vector<End> ends;
+
+    // The entries since the last call are the vertex's.
+    void endRow(std::size_t vertex) { ends.push_back({vertex, entries.size()}); }
+
+    void store(const NodePtr &node) const
+    {
+        node->scene()->changeWeights(node, [this](WeightStore &weights) {
+            std::size_t first = 0;
+            for (const End &row : ends) {
+                weights.setRow(row.vertex,
+                               skin::RowView(entries.data() + first, entries.data() + row.end));
+                first = row.end;
+            }
+        });
+    }
+};
+
 int SkinCluster::indexOf(const Node &influence) const
 {
     for (std::size_t i = 0; i < influences_.size(); ++i) {
@@ -223,9 +249,8 @@ SkinWriteResult SkinCluster::edit(const std::vector<int> &vertices, const RowEdi
     const skin::WriteSettings rules = settings(normalize);
     std::shared_ptr<const BindPose> pose;
     std::vector<double> dense(columns);
-    std::vector<skin::Entry> row;
     const WeightStore &before = *node_->weights();
-    WeightStore after = before;
+    NewRows newRows;
     skin::WriteOutcome outcome;
     for (std::size_t place = 0; place < vertices.size(); ++place) {
         const int vertex = vertices[place];
@@ -237,23 +262,24 @@ SkinWriteResult SkinCluster::edit(const std::vector<int> &vertices, const RowEdi
             return createWeights(*pose, vertex, free);
         };
         outcome |= change(place, RowRule{dense.data(), locked, rules, create});
-        makeSparse(before.row(number), dense.data(), row);
-        after.setRow(number, row);
+        appendSparse(before.row(number), dense.data(), newRows);
+        newRows.endRow(number);
     }
-    node_->scene()->setWeights(node_, std::move(after));
+    newRows.store(node_);
     return {outcome.couldNotSet, outcome.locksPreventedMax};
 }
 
 void SkinCluster::store(const std::vector<int> &vertices, const double *dense) const
 {
-    WeightStore after = *node_->weights();
-    std::vector<skin::Entry> row;
+    const WeightStore &before = *node_->weights();
+    NewRows newRows;
     for (const int vertex : vertices) {
-        makeSparse(node_->weights()->row(std::size_t(vertex)), dense, row);
-        after.setRow(std::size_t(vertex), row);
+        const auto number = std::size_t(vertex);
+        appendSparse(before.row(number), dense, newRows);
+        newRows.endRow(number);
         dense += influences_.size();
     }
-    node_->scene()->setWeights(node_, std::move(after));
+    newRows.store(node_);
 }
 
 void SkinCluster::visitBindWeights(const std::vector<int> &vertices,
@@ -269,23 +295,23 @@ void SkinCluster::visitBindWeights(const std::vector<int> &vertices,
 }
 
 // Weights of former influences, whose logical index has no column, stay in the row.
-void SkinCluster::makeSparse(const skin::RowView &before, const double *dense,
-                             std::vector<skin::Entry> &row) const
+void SkinCluster::appendSparse(const skin::RowView &before, const double *dense,
+                               NewRows &rows) const
 {
-    row.clear();
+    const std::size_t start = rows.entries.size();
     for (const skin::Entry &entry : before) {
         if (entry.influence >= columnOfLogical_.size() || columnOfLogical_[entry.influence] < 0)
-            row.push_back(entry);
+            rows.entries.push_back(entry);
     }
-    const std::size_t kept = row.size();
+    const bool hasFormer = rows.entries.size() > start;
     for (std::size_t i = 0; i < influences_.size(); ++i) {
         if (dense[i] != 0.0)
-            row.push_back({influences_[i].logicalIndex, dense[i]});
+            rows.entries.push_back({influences_[i].logicalIndex, dense[i]});
     }
-    if (kept > 0)
-        std::sort(row.begin(), row.end(), [](const skin::Entry &a, const skin::Entry &b) {
-            return a.influence < b.influence;
-        });
+    if (hasFormer)
+        std::sort(
+            rows.entries.begin() + std::ptrdiff_t(start), rows.entries.end(),
+            [](const skin::Entry &a, const skin::Entry &b) { return a.influence < b.influence; });
 }
 
 } // namespace host

@@ -94,8 +94,8 @@ private:
     std::shared_ptr<const BindPose> bindPose() const;
     std::vector<double> createWeights(const BindPose &pose, int vertex,
                                       const std::vector<std::size_t> &free) const;
-    void makeSparse(const skin::RowView &before, const double *dense,
-                    std::vector<skin::Entry> &row) const;
+    struct NewRows;
+    void appendSparse(const skin::RowView &before, const double *dense, NewRows &rows) const;
 
     NodePtr node_;
     std::vector<Influence> influences_;

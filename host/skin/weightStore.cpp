@@ -17,7 +17,7 @@ bool comesBefore(const Entry &entry, std::uint32_t influence)
 }
 
 // What a row may hold as it stands: influences ascending, no zeros.
-bool isStorable(const std::vector<Entry> &entries)
+bool isStorable(const RowView &entries)
 {
     for (std::size_t i = 0; i < entries.size(); ++i) {
         if (entries[i].weight == 0.0)
@@ -187,13 +187,13 @@ void WeightStore::setWeight(std::size_t vertex, std::uint32_t influence, double 
         page.starts[after] = isStored ? page.starts[after] - 1 : page.starts[after] + 1;
 }
 
-void WeightStore::setRow(std::size_t vertex, const std::vector<Entry> &entries)
+void WeightStore::setRow(std::size_t vertex, const RowView &entries)
 {
     if (isStorable(entries)) {
-        replaceRow(vertex, entries.data(), entries.size());
+        replaceRow(vertex, entries.begin(), entries.size());
         return;
     }
-    std::vector<Entry> storable = entries;
+    std::vector<Entry> storable(entries.begin(), entries.end());
     makeStorable(storable);
     replaceRow(vertex, storable.data(), storable.size());
 }

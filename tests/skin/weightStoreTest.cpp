@@ -46,7 +46,7 @@ TEST(weightStore, keepsGapsAndEmptyRowsApart)
     WeightStore store;
     store.setWeight(7, 1, 0.0);
     EXPECT_EQ(store.vertexCount(), 0u) << "a zero makes no row";
-    store.setRow(70, {});
+    store.setRow(70, std::vector<Entry>());
     store.setWeight(7, 1, 0.5);
     store.setWeight(7, 1, 0.0);
     store.setWeight(4000000000, 1, 1.0);

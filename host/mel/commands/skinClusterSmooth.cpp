@@ -96,7 +96,8 @@ void smoothSkinCluster(Context &context, const Arguments &arguments, const SkinC
             return exceedsLimit(weights.row(vertex), settings.maxInfluences);
         });
     if (!changed.empty())
-        context.scene().setWeights(cluster.node(), std::move(weights));
+        context.scene().changeWeights(
+            cluster.node(), [&](skin::WeightStore &stored) { stored = std::move(weights); });
     showWarnings(context.session, result);
 }
 
