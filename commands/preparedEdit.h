@@ -26,7 +26,13 @@ struct editedShape {
     bool switchesMaximumOn = false; // smoothing only: maintainMaxInfluences was off before
 };
 
-// One call of setWeights, or a series of them on one vertex.
+// Limiting influences: a vertex's row of the table, and where it stands.
+struct limitedRow {
+    weightRow row;
+    int index;
+};
+
+// One call of setWeights, or a series of them on the same vertices.
 struct weightWrite {
     int shape = -1; // in preparedEdit::shapes
     MObject component;
@@ -39,10 +45,11 @@ struct weightWrite {
     // Joints that Maya must hold meanwhile.
     MDagPathArray heldJoints;
 
-    // Limiting influences: the vertex's row of the table, where it stands, and how many may stay.
-    weightRow row;
-    int rowIndex = -1;
+    // Limiting influences: of each of `vertices`, and how many may stay.
+    QVector<limitedRow> limitedRows;
     int maximum = 0;
+    // Those of the vertices whose weights oldWeights has; null if it has all of them.
+    MObject displaced;
 };
 
 struct preparedEdit {

@@ -35,33 +35,34 @@ shapeWriter::shapeWriter(const editedShape &shape, normalization normalize)
 }
 
 MStatus shapeWriter::setInfluence(const MObject &component, int influence, double value,
-                                  MDoubleArray &old)
+                                  MDoubleArray *old)
 {
     return skinCluster_.setWeights(path_, component, static_cast<unsigned int>(influence), value,
-                                   true, &old);
+                                   true, old);
 }
 
-MStatus shapeWriter::setInfluence(const MObject &component, int influence, MDoubleArray values,
-                                  MDoubleArray &old)
+MStatus shapeWriter::setInfluence(const MObject &component, int influence, MDoubleArray &values,
+                                  MDoubleArray *old)
 {
     // What this setWeights gives as old weights, of these influences or of all, Maya leaves open.
-    old = weightsOf(component);
+    if (old)
+        read(component, *old);
     MIntArray influences(1, influence);
     return skinCluster_.setWeights(path_, component, influences, values, true);
 }
 
-MStatus shapeWriter::setAll(const MObject &component, MDoubleArray values, MDoubleArray &old)
+MStatus shapeWriter::setAll(const MObject &component, MDoubleArray &values, MDoubleArray *old)
 {
-    return skinCluster_.setWeights(path_, component, allInfluences_, values, true, &old);
+    return skinCluster_.setWeights(path_, component, allInfluences_, values, true, old);
 }
 
-MDoubleArray shapeWriter::weightsOf(const MObject &component) const
+bool shapeWriter::read(const MObject &component, MDoubleArray &weights) const
 {
-    MDoubleArray weights;
     unsigned int influenceCount = 0;
-    if (!skinCluster_.getWeights(path_, component, weights, influenceCount))
-        weights.clear();
-    return weights;
+    if (skinCluster_.getWeights(path_, component, weights, influenceCount))
+        return true;
+    weights.clear();
+    return false;
 }
 
 shapeWriters::shapeWriters(const preparedEdit &edit, normalization normalize)
@@ -95,9 +96,11 @@ bool keepDisplaced(preparedEdit &edit)
         return false;
     }
     shapeWriters readers(edit, normalization::leftAlone);
-    for (int i = 0; readers.areReady() && i < edit.writes.size(); ++i)
-        edit.oldWeights.append(
-            readers.of(edit.writes.at(i)).weightsOf(edit.writes.at(i).component));
+    edit.oldWeights.reserve(edit.writes.size());
+    for (int i = 0; readers.areReady() && i < edit.writes.size(); ++i) {
+        edit.oldWeights.append(MDoubleArray());
+        readers.of(edit.writes.at(i)).read(edit.writes.at(i).component, edit.oldWeights.last());
+    }
     return readers.areReady();
 }
 
@@ -115,7 +118,7 @@ MStatus writeEach(preparedEdit &edit, writeStep step)
     edit.oldWeights.reserve(edit.writes.size());
     for (int i = 0; i < edit.writes.size(); ++i) {
         edit.oldWeights.append(MDoubleArray());
-        const weightWrite &write = edit.writes.at(i);
+        weightWrite &write = edit.writes[i];
         status = step(writers.of(write), write, edit.oldWeights.last());
     }
     return status;

@@ -30,14 +30,17 @@ public:
     // False where the skin cluster cannot be made to normalize.
     bool isNormalizing() const { return !guard_ || guard_->isNormalizing(); }
 
-    // Each call replaces `old` by the weights of all influences before it.
-    MStatus setInfluence(const MObject &component, int influence, double value, MDoubleArray &old);
-    MStatus setInfluence(const MObject &component, int influence, MDoubleArray values,
-                         MDoubleArray &old);
-    MStatus setAll(const MObject &component, MDoubleArray values, MDoubleArray &old);
+    // Each call replaces `old`, if it is not null, by the weights of all influences before it.
+    // Values stay as they are: Maya takes them without const, but only reads them. Arrays are
+    // handed on without a copy, since those of a whole mesh are large.
+    MStatus setInfluence(const MObject &component, int influence, double value, MDoubleArray *old);
+    MStatus setInfluence(const MObject &component, int influence, MDoubleArray &values,
+                         MDoubleArray *old);
+    MStatus setAll(const MObject &component, MDoubleArray &values, MDoubleArray *old);
 
-    // The weights of all influences; empty if they cannot be read.
-    MDoubleArray weightsOf(const MObject &component) const;
+    // Replaces `weights` by those of all influences; empties it and gives false if they cannot be
+    // read.
+    bool read(const MObject &component, MDoubleArray &weights) const;
 
 private:
     MFnSkinCluster skinCluster_;
@@ -72,5 +75,5 @@ private:
 bool keepDisplaced(preparedEdit &edit);
 
 // The loop of most writers: `step` writes once, into `old` what that displaced.
-typedef MStatus (*writeStep)(shapeWriter &writer, const weightWrite &write, MDoubleArray &old);
+typedef MStatus (*writeStep)(shapeWriter &writer, weightWrite &write, MDoubleArray &old);
 MStatus writeEach(preparedEdit &edit, writeStep step);

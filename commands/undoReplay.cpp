@@ -4,7 +4,7 @@
 #include "commands/maximumSwitch.h"
 #include "commands/shapeWriter.h"
 
-MStatus replayDisplaced(const preparedEdit &edit)
+MStatus replayDisplaced(preparedEdit &edit)
 {
     if (edit.oldWeights.isEmpty())
         return MStatus::kFailure;
@@ -14,12 +14,12 @@ MStatus replayDisplaced(const preparedEdit &edit)
     switchMaximumsBack(edit);
     MStatus status = MStatus::kFailure;
     for (int i = 0; i < edit.oldWeights.size(); ++i) {
-        const MDoubleArray &old = edit.oldWeights.at(i);
+        MDoubleArray &old = edit.oldWeights[i];
         if (old.length() == 0)
             continue; // a write that failed displaced nothing
         const weightWrite &write = edit.writes.at(i);
-        MDoubleArray replaced;
-        status = writers.of(write).setAll(write.component, old, replaced);
+        const MObject &component = write.displaced.isNull() ? write.component : write.displaced;
+        status = writers.of(write).setAll(component, old, nullptr);
     }
     return status;
 }

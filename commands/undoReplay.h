@@ -14,4 +14,4 @@
 // Deliberate: first to last, never in reverse. Where two writes of an edit met at one vertex (two
 // cells of a row typed into at once), the vertex ends with the weights between them, the first
 // write still applied. Pinned by the test undoReplay.endsBetweenTwoWritesToOneVertex.
-MStatus replayDisplaced(const preparedEdit &edit);
+MStatus replayDisplaced(preparedEdit &edit);

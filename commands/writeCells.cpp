@@ -5,10 +5,10 @@
 
 MStatus writeCells(preparedEdit &edit)
 {
-    return writeEach(edit, [](shapeWriter &writer, const weightWrite &write, MDoubleArray &old) {
+    return writeEach(edit, [](shapeWriter &writer, weightWrite &write, MDoubleArray &old) {
         const influenceHold hold(write.heldJoints);
         if (write.values.length() > 0)
-            return writer.setInfluence(write.component, write.influence, write.values, old);
-        return writer.setInfluence(write.component, write.influence, write.value, old);
+            return writer.setInfluence(write.component, write.influence, write.values, &old);
+        return writer.setInfluence(write.component, write.influence, write.value, &old);
     });
 }

@@ -5,8 +5,8 @@
 
 MStatus writeColumn(preparedEdit &edit)
 {
-    return writeEach(edit, [](shapeWriter &writer, const weightWrite &write, MDoubleArray &old) {
+    return writeEach(edit, [](shapeWriter &writer, weightWrite &write, MDoubleArray &old) {
         const influenceHold hold(write.heldJoints);
-        return writer.setInfluence(write.component, write.influence, write.values, old);
+        return writer.setInfluence(write.component, write.influence, write.values, &old);
     });
 }

@@ -4,7 +4,7 @@
 
 MStatus writeFlood(preparedEdit &edit)
 {
-    return writeEach(edit, [](shapeWriter &writer, const weightWrite &write, MDoubleArray &old) {
-        return writer.setInfluence(write.component, write.influence, write.value, old);
+    return writeEach(edit, [](shapeWriter &writer, weightWrite &write, MDoubleArray &old) {
+        return writer.setInfluence(write.component, write.influence, write.value, &old);
     });
 }

@@ -4,7 +4,7 @@
 
 MStatus writeRounding(preparedEdit &edit)
 {
-    return writeEach(edit, [](shapeWriter &writer, const weightWrite &write, MDoubleArray &old) {
-        return writer.setAll(write.component, write.values, old);
+    return writeEach(edit, [](shapeWriter &writer, weightWrite &write, MDoubleArray &old) {
+        return writer.setAll(write.component, write.values, &old);
     });
 }

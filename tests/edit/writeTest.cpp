@@ -2,6 +2,9 @@
 //
 // What writers write, and the replay takes back.
 
+#include <algorithm>
+#include <random>
+
 #include "edit/preparedScene.h"
 #include "model/messages.h"
 
@@ -22,9 +25,9 @@ TEST_F(writeEdit, dropsTheSmallestWeightsOneByOne)
         const char *weights;
     } cases[] = {
         {4, 0, "0.4 0.3 0.2 0.1; 0.25 0.25 0.25 0.25; 0.5 0.5 0 0; 1 0 0 0"},
-        {3, 2, "0.4444 0.3333 0.2222 0; 0 0.3333 0.3333 0.3333; 0.5 0.5 0 0; 1 0 0 0"},
-        {2, 2, "0.5714 0.4286 0 0; 0 0 0.5 0.5; 0.5 0.5 0 0; 1 0 0 0"},
-        {1, 3, "1 0 0 0; 0 0 0 1; 0 1 0 0; 1 0 0 0"},
+        {3, 1, "0.4444 0.3333 0.2222 0; 0 0.3333 0.3333 0.3333; 0.5 0.5 0 0; 1 0 0 0"},
+        {2, 1, "0.5714 0.4286 0 0; 0 0 0.5 0.5; 0.5 0.5 0 0; 1 0 0 0"},
+        {1, 1, "1 0 0 0; 0 0 0 1; 0 1 0 0; 1 0 0 0"},
     };
     for (const auto &c : cases) {
         maxInfluences_ = c.maxInfluences;
@@ -49,6 +52,52 @@ TEST_F(writeEdit, takesOutWeightsThatTheTableDoesNotShow)
     EXPECT_EQ(weights("body"), "0.625 0.375 0 0; 0.625 0.375 0 0; 0.6 0.3999 0.0001 0; 1 0 0 0");
     EXPECT_TRUE(replayDisplaced(edit_));
     EXPECT_EQ(weights("body").substr(0, 22), "0.5 0.3 0.1999 0.0001;");
+}
+
+// Vertices are written together unless what one gets comes from those around it: a locked joint
+// leaves weight to joints that have none.
+TEST_F(writeEdit, limitsManyVerticesAsItLimitsEachAlone)
+{
+    std::mt19937 random(1);
+    std::vector<std::vector<double>> rows(30, std::vector<double>(6));
+    for (std::vector<double> &row : rows) {
+        for (int unit = 0; unit < 64; ++unit)
+            row[random() % row.size() * (random() % 3) / 2] += 1.0 / 64;
+    }
+    const auto exactWeights = [] {
+        std::vector<std::vector<double>> all;
+        for (int vertex = 0; vertex < 30; ++vertex)
+            all.push_back(
+                melNumbers("skinPercent -q -v bodySkin body.vtx[" + std::to_string(vertex) + "]"));
+        return all;
+    };
+    const auto limit = [this](const QVector<int> &tableRows) {
+        handOver_.maxInfluenceRows = tableRows;
+        ASSERT_EQ(prepare(prepareMaxInfluences), preparation::ready);
+        ASSERT_TRUE(writeMaxInfluences(edit_));
+    };
+    QVector<int> tableRows;
+    for (int row = 1; row <= 30; ++row)
+        tableRows.append(row);
+    for (const char *distribution : {"0", "1"}) {
+        for (maxInfluences_ = 1; maxInfluences_ < 4; ++maxInfluences_) {
+            mel("file -f -new");
+            makeSkin("body", {"a", "b", "c", "d", "e", "f"}, rows);
+            mel(std::string("setAttr bodySkin.wd ") + distribution + "; setAttr f.liw 1");
+            load("body");
+            std::shuffle(tableRows.begin(), tableRows.end(), random);
+            const auto before = exactWeights();
+            limit(tableRows);
+            EXPECT_EQ(edit_.writes.size() == 1, *distribution == '0');
+            const auto together = exactWeights();
+            EXPECT_TRUE(replayDisplaced(edit_));
+            EXPECT_EQ(exactWeights(), before);
+            for (int i = 0; i < tableRows.size(); ++i)
+                limit({tableRows.at(i)});
+            EXPECT_EQ(exactWeights(), together) << maxInfluences_ << ", " << distribution;
+            EXPECT_NE(together, before);
+        }
+    }
 }
 
 TEST_F(writeEdit, stopsAtAJointThatIsNoInfluence)
