@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "commands/shapeWriter.h"
-#include "commands/vertexComponents.h"
 #include "commands/writers.h"
 
 #include "model/limitRows.h"
 #include "model/messages.h"
+#include "model/vertexComponents.h"
 
 #include <algorithm>
 
