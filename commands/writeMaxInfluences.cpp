@@ -6,8 +6,6 @@
 #include "model/messages.h"
 #include "model/vertexComponents.h"
 
-#include <algorithm>
-
 #include <maya/MGlobal.h>
 
 namespace
@@ -63,7 +61,7 @@ public:
 
 private:
     bool chooseDrops(cellQuestion mayChange);
-    void readRow(int k);
+    const weightRow &rowOf(int k);
     void readDisplaced(MDoubleArray &old);
     MObject componentOfLeft() const;
 
@@ -74,15 +72,17 @@ private:
     QVector<limitedVertex> left_;
     QVector<QVector<int>> drops_; // vertices by influence
     MDoubleArray weights_;        // of left_, after the first round
-    weightRow row_;               // of the vertex being looked at
+    weightRow row_;               // as stored, of the vertex being looked at
 };
 
-void limitRounds::readRow(int k)
+// As the table shows it, then as it is stored. Where other joints than the skin cluster's hold
+// weight in the table, the vertex is the only one of its write.
+const weightRow &limitRounds::rowOf(int k)
 {
-    const weightRow &shown = write_.limitedRows.at(left_.at(k).place).row;
-    std::copy(shown.constBegin(), shown.constEnd(), row_.begin());
-    if (round_ > 0)
-        layOut(&weights_[static_cast<unsigned int>(k) * shape_.influenceCount], shape_, row_);
+    if (round_ == 0)
+        return write_.limitedRows.at(left_.at(k).place).row;
+    layOut(&weights_[static_cast<unsigned int>(k) * shape_.influenceCount], shape_, row_);
+    return row_;
 }
 
 // Fills drops_, and leaves in left_ the vertices that may need another round.
@@ -92,10 +92,10 @@ bool limitRounds::chooseDrops(cellQuestion mayChange)
     QVector<limitedVertex> next;
     for (int k = 0; k < left_.size(); ++k) {
         limitedVertex vertex = left_.at(k);
-        readRow(k);
+        const weightRow &row = rowOf(k);
         if (round_ == 1 && vertex.isRecounted) // the weights that the table rounds away as well
-            vertex.drops = 1 + influencesBeyond(write_.maximum, row_);
-        const int column = round_ < vertex.drops ? smallestWeight(row_) : -1;
+            vertex.drops = 1 + influencesBeyond(write_.maximum, row);
+        const int column = round_ < vertex.drops ? smallestWeight(row) : -1;
         if (column < 0)
             continue;
         const cellIndex cell = {write_.limitedRows.at(vertex.place).index, column};

@@ -71,9 +71,10 @@ void giveResidual(weightRow &row, int entry)
     row[entry] = residualBeside(sumOfOthers);
 }
 
-bool roundEditedRow(weightRow &row, int places, const std::function<bool(int column)> &mayTake)
+bool roundEditedRow(weightRow &row, const weightRounder &rounder,
+                    const std::function<bool(int column)> &mayTake)
 {
-    weightRounder(places).roundRow(row);
+    rounder.roundRow(row);
     int weightCount = 0;
     int chosen = -1;
     for (int column = 0; hasCell(row, column); ++column) {

@@ -51,7 +51,8 @@ void giveResidual(weightRow &row, int entry);
 // one that may not take it. Pinned by the test roundEditedRow.givesTheResidualToTheFirstEqual.
 //
 // REQUIRES: places >= 1.
-bool roundEditedRow(weightRow &row, int places, const std::function<bool(int column)> &mayTake);
+bool roundEditedRow(weightRow &row, const weightRounder &rounder,
+                    const std::function<bool(int column)> &mayTake);
 
 // The pass over a whole list that was read from the scene: rounds each row and then, if the row's
 // sum is off 1.0 by no more than rounding explains, gives the residual to its last weight. Rows are

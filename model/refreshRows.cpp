@@ -211,6 +211,7 @@ void weightTableModel::refreshOneByOne(QVector<int> rows,
                                        const std::function<int(int row)> &editedColumn)
 {
     sortAndUnite(rows);
+    const weightRounder rounder(settings_.precision);
     bool isEachComplete = true;
     const QVector<shapeRows> groups = groupedByShape(weights_, rows);
     for (int g = 0; g < groups.size(); ++g) {
@@ -225,8 +226,7 @@ void weightTableModel::refreshOneByOne(QVector<int> rows,
             };
             double sum = 0.0;
             weightRow weights = reader.row(k, &sum);
-            isEachComplete =
-                roundEditedRow(weights, settings_.precision, mayTake) && isEachComplete;
+            isEachComplete = roundEditedRow(weights, rounder, mayTake) && isEachComplete;
             if (movesFirstWithoutWeight(weights_.notes, row, weights))
                 weights_.notes.allOtherwiseRounded = true;
             storeRow(row, weights, sum);

@@ -122,8 +122,7 @@ struct SkinCluster::NewRows {
         node->scene()->changeWeights(node, [this](WeightStore &weights) {
             std::size_t first = 0;
             for (const End &row : ends) {
-                weights.setRow(row.vertex,
-                               skin::RowView(entries.data() + first, entries.data() + row.end));
+                weights.setRowFrom(row.vertex, {entries.data() + first, entries.data() + row.end});
                 first = row.end;
             }
         });
@@ -245,7 +244,9 @@ SkinWriteResult SkinCluster::edit(const std::vector<int> &vertices, const RowEdi
                                   bool normalize) const
 {
     const std::size_t columns = influences_.size();
-    const std::vector<bool> locked = locks();
+    std::vector<bool> locked = locks();
+    if (std::find(locked.begin(), locked.end(), true) == locked.end())
+        locked.clear(); // no row needs to look at them
     const skin::WriteSettings rules = settings(normalize);
     std::shared_ptr<const BindPose> pose;
     std::vector<double> dense(columns);

@@ -72,7 +72,7 @@ public:
     // One vertex while its row is edited: dense weights and the rules that hold for them.
     struct RowRule {
         double *weights;
-        const std::vector<bool> &locked;
+        const std::vector<bool> &locked; // missing entries: not locked
         const skin::WriteSettings &settings;
         const skin::CreateWeights &createWeights; // by weightDistribution, from the bind pose
     };

@@ -187,7 +187,7 @@ void WeightStore::setWeight(std::size_t vertex, std::uint32_t influence, double 
         page.starts[after] = isStored ? page.starts[after] - 1 : page.starts[after] + 1;
 }
 
-void WeightStore::setRow(std::size_t vertex, const RowView &entries)
+void WeightStore::setRowFrom(std::size_t vertex, const RowView &entries)
 {
     if (isStorable(entries)) {
         replaceRow(vertex, entries.begin(), entries.size());

@@ -95,11 +95,11 @@ public:
     // Replaces a row (makes it if need be, also when nothing is left to store). Exact zeros are
     // dropped. Ascending entries are quickest; others are sorted, and of equal influences the last
     // one counts.
-    void setRow(std::size_t vertex, const RowView &entries); // not of this store
     void setRow(std::size_t vertex, const std::vector<Entry> &entries)
     {
-        setRow(vertex, RowView(entries.data(), entries.data() + entries.size()));
+        setRowFrom(vertex, {entries.data(), entries.data() + entries.size()});
     }
+    void setRowFrom(std::size_t vertex, const RowView &entries); // not of this store
 
     // Adds entries to a row, as files do that set the weights of one vertex in several statements:
     // an influence that is already there is replaced, and erased by a 0.

@@ -5,6 +5,7 @@
 #include "skin/rowRoles.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace host::skin
@@ -90,6 +91,64 @@ bool enforceLimit(RowRoles &row, std::size_t limit, double rest, WriteOutcome &o
     return dropsSome && allowed == 0;
 }
 
+// The rule itself, for interactive mode.
+WriteOutcome writeNormalized(double *weights, std::size_t count, const Assignment *assignments,
+                             std::size_t assignmentCount, const std::vector<bool> &locked,
+                             const WriteSettings &settings, const CreateWeights &createWeights)
+{
+    WriteOutcome outcome;
+    RowRoles row(weights, count, locked);
+    for (std::size_t a = 0; a < assignmentCount; ++a)
+        row.role(assignments[a].influence) = Role::announced;
+    const double room = std::max(0.0, 1.0 - row.sum(Role::locked));
+    const double rest = assign(row, assignments, assignmentCount, room, outcome);
+    if (rest < kWeightEpsilon)
+        row.setAll(Role::free, 0.0);
+    else if (!row.scaleTo(rest, Role::free) && !row.createFree(rest, createWeights))
+        fillRoom(row, assignments, assignmentCount, room, outcome);
+
+    if (settings.maintainMaxInfluences && settings.maxInfluences > 0 &&
+        enforceLimit(row, settings.maxInfluences, rest, outcome))
+        fillRoom(row, assignments, assignmentCount, room, outcome);
+    return outcome;
+}
+
+// The same for one assignment and no locks, on those weights alone that are not 0: a vertex has a
+// handful of them among a hundred influences. False, and nothing done, where the others count too,
+// because weights have to be made up, or where there are many.
+bool writeAmongWeightsInUse(double *weights, std::size_t count, const Assignment &assignment,
+                            const WriteSettings &settings, WriteOutcome &outcome)
+{
+    constexpr std::size_t kMost = 32;
+    std::array<double, kMost> inUse;
+    std::array<std::size_t, kMost> influences;
+    std::size_t used = 0;
+    Assignment assigned = assignment;
+    bool mustCreate = true;
+    for (std::size_t i = 0; i < count; ++i) {
+        if (weights[i] == 0.0 && i != assignment.influence)
+            continue;
+        if (used == kMost)
+            return false;
+        if (i == assignment.influence)
+            assigned.influence = used;
+        else
+            mustCreate = mustCreate && !(weights[i] > 0.0);
+        influences[used] = i;
+        inUse[used++] = weights[i];
+    }
+    if (mustCreate)
+        return false;
+    outcome = writeNormalized(inUse.data(), used, &assigned, 1, {}, settings,
+                              [&mustCreate](const std::vector<std::size_t> &) {
+                                  mustCreate = true;
+                                  return std::vector<double>();
+                              });
+    for (std::size_t k = 0; k < used && !mustCreate; ++k)
+        weights[influences[k]] = inUse[k];
+    return !mustCreate;
+}
+
 } // namespace
 
 bool isWritable(double value)
@@ -107,21 +166,11 @@ WriteOutcome writeWeights(double *weights, std::size_t count, const Assignment *
             weights[assignments[a].influence] = assignments[a].value;
         return outcome;
     }
-
-    RowRoles row(weights, count, locked);
-    for (std::size_t a = 0; a < assignmentCount; ++a)
-        row.role(assignments[a].influence) = Role::announced;
-    const double room = std::max(0.0, 1.0 - row.sum(Role::locked));
-    const double rest = assign(row, assignments, assignmentCount, room, outcome);
-    if (rest < kWeightEpsilon)
-        row.setAll(Role::free, 0.0);
-    else if (!row.scaleTo(rest, Role::free) && !row.createFree(rest, createWeights))
-        fillRoom(row, assignments, assignmentCount, room, outcome);
-
-    if (settings.maintainMaxInfluences && settings.maxInfluences > 0 &&
-        enforceLimit(row, settings.maxInfluences, rest, outcome))
-        fillRoom(row, assignments, assignmentCount, room, outcome);
-    return outcome;
+    if (assignmentCount == 1 && locked.empty() &&
+        writeAmongWeightsInUse(weights, count, assignments[0], settings, outcome))
+        return outcome;
+    return writeNormalized(weights, count, assignments, assignmentCount, locked, settings,
+                           createWeights);
 }
 
 } // namespace host::skin

@@ -148,7 +148,7 @@ TEST(roundEditedRow, givesTheResidualToTheFirstWeightThatMayTakeIt)
         const auto mayTake = [&c](int column) {
             return std::find(c.barred.begin(), c.barred.end(), column) == c.barred.end();
         };
-        EXPECT_EQ(roundEditedRow(row, 2, mayTake), c.found) << c.what;
+        EXPECT_EQ(roundEditedRow(row, weightRounder(2), mayTake), c.found) << c.what;
         expectCells(row, c.expected, c.what);
     }
 }
@@ -156,6 +156,6 @@ TEST(roundEditedRow, givesTheResidualToTheFirstWeightThatMayTakeIt)
 TEST(roundEditedRow, givesTheResidualToTheFirstEqual)
 {
     weightRow row = {0.0, 0.33, 0.33, 0.33};
-    EXPECT_TRUE(roundEditedRow(row, 2, [](int column) { return column == 1; }));
+    EXPECT_TRUE(roundEditedRow(row, weightRounder(2), [](int column) { return column == 1; }));
     expectCells(row, {0.0, 0.34, 0.33, 0.33}, "the first of the equal ones may not, and does");
 }

@@ -126,3 +126,29 @@ TEST(writeRuleAtRandom, agreesWithItsDefinition)
             ASSERT_NEAR(actual.weights[i], expected.weights[i], 1e-14) << "round " << round;
     }
 }
+
+// One assignment without locks looks at the weights in use only, with the same bits as looking at
+// all: the list of locks says the same in both calls.
+TEST(writeRuleAtRandom, doesNotDependOnHowMuchItLooksAt)
+{
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> unit(0, 1);
+    const double values[] = {0.0, 1.0, 1e-11, 0.5, -0.25, 1.5};
+    for (int round = 0; round < 20000; ++round) {
+        std::vector<double> all(1 + random() % 100, 0.0);
+        for (std::size_t n = random() % (random() % 8 ? 9 : 60); n > 0; --n)
+            all[random() % all.size()] = random() % 10 ? unit(random) / 8 : -unit(random) / 8;
+        std::vector<double> inUse = all;
+        const Assignment assignment = {random() % all.size(), values[random() % 6]};
+        WriteSettings settings;
+        settings.maintainMaxInfluences = random() % 3 == 0;
+        settings.maxInfluences = unsigned(random() % 5);
+        const std::vector<bool> noneLocked(all.size(), false);
+        const WriteOutcome expected = writeWeights(all.data(), all.size(), &assignment, 1,
+                                                   noneLocked, settings, lowerIndexMore);
+        const WriteOutcome outcome =
+            writeWeights(inUse.data(), inUse.size(), &assignment, 1, {}, settings, lowerIndexMore);
+        ASSERT_EQ(inUse, all) << "round " << round;
+        ASSERT_EQ(outcome.couldNotSet, expected.couldNotSet) << "round " << round;
+    }
+}
