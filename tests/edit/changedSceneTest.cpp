@@ -46,9 +46,9 @@ TEST_F(changedScene, takesTheEditOrSaysWhyNot)
         loadBody();
         mel(c.change);
         takeErrors();
-        infos_.take();
+        takeInfos();
         EXPECT_TRUE(type(1, c.column, "0.8")) << c.change;
-        EXPECT_EQ(infos_.take(), c.info) << c.change;
+        EXPECT_EQ(takeInfos(), c.info) << c.change;
         EXPECT_EQ(takeErrors(), c.error) << c.change;
         if (*c.weights) {
             EXPECT_EQ(weights(0), c.weights) << c.change;

@@ -15,11 +15,11 @@ TEST_F(command, reportsAnEditThatNobodyPrepared)
     for (const char *flag : {"-round", "-replace", "-setData", "-dragSlider", "-dragSliderColumn",
                              "-skinPaintSmooth"}) {
         EXPECT_EQ(melError(std::string("korvexCmd ") + flag), "") << flag;
-        EXPECT_EQ(infos_.take(), kDataNotSetUp) << flag;
+        EXPECT_EQ(takeInfos(), kDataNotSetUp) << flag;
     }
     EXPECT_EQ(undoItems(), items);
     mel("korvexCmd -numMax");
-    EXPECT_EQ(infos_.take() + takeErrors(), "") << "no vertex has too many influences";
+    EXPECT_EQ(takeInfos() + takeErrors(), "") << "no vertex has too many influences";
 }
 
 TEST_F(command, carriesTheCellsThatWereHandedOverLast)

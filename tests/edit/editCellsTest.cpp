@@ -11,12 +11,6 @@ class editCells : public EditScene
 {
 protected:
     editCells() { loadBody(); }
-
-    void lock(int row, int column)
-    {
-        selectCells(row, column, row, column);
-        call("lockCell");
-    }
 };
 
 TEST_F(editCells, writesWhatIsTypedAndUndoTakesItBack)
@@ -43,7 +37,7 @@ TEST_F(editCells, writesWhatIsTypedAndUndoTakesItBack)
     EXPECT_EQ(weights(1), "0.25 0.25 0.5");
     EXPECT_TRUE(type(4, 1, "/=0"));
     EXPECT_EQ(weights(3), "1 0 0") << "0.0 divided by 0 is 0.0";
-    EXPECT_EQ(takeErrors() + infos_.take(), "");
+    EXPECT_EQ(takeErrors() + takeInfos(), "");
 }
 
 TEST_F(editCells, changesNothingForAValueOutOfRange)
@@ -94,10 +88,10 @@ TEST_F(editCells, reportsASelectionThatShowsNothing)
 {
     const std::string items = undoItems();
     EXPECT_TRUE(type(0, 1, "0.5"));
-    EXPECT_EQ(infos_.take(), kDataNotSetUp);
+    EXPECT_EQ(takeInfos(), kDataNotSetUp);
     view_->clearSelection();
     EXPECT_TRUE(typeIntoSelection(1, 0, "0.5"));
-    EXPECT_EQ(infos_.take(), kDataNotSetUp);
+    EXPECT_EQ(takeInfos(), kDataNotSetUp);
     EXPECT_EQ(takeErrors(), "");
     EXPECT_EQ(weights(0), "0.5 0.3 0.2");
     EXPECT_EQ(undoItems(), items);
@@ -118,7 +112,7 @@ TEST_F(editCells, leavesEmptyCellsOfOtherShapesAlone)
 
 TEST_F(editCells, movesWeightAmongUnlockedCellsOnly)
 {
-    lock(1, 1);
+    lockCell(1, 1);
     EXPECT_TRUE(type(1, 0, "0.2"));
     EXPECT_EQ(weights(0), "0.2 0.3 0.5");
     EXPECT_TRUE(type(1, 0, "0.9"));
@@ -134,7 +128,7 @@ TEST_F(editCells, movesWeightAmongUnlockedCellsOnly)
 
 TEST_F(editCells, endsWithTheHeldJointsFree)
 {
-    lock(1, 1);
+    lockCell(1, 1);
     mel("setAttr knee.lockInfluenceWeights 1; setAttr ankle.lockInfluenceWeights 1");
     EXPECT_TRUE(type(1, 0, "0.4"));
     EXPECT_EQ(melString("getAttr knee.lockInfluenceWeights"), "0");
@@ -146,32 +140,12 @@ TEST_F(editCells, endsWithTheHeldJointsFree)
 
 TEST_F(editCells, tellsWhenNoCellOfARowMayTakeTheRounding)
 {
-    lock(1, 1);
-    lock(1, 2);
+    lockCell(1, 1);
+    lockCell(1, 2);
     EXPECT_TRUE(type(1, 0, "0.5"));
     EXPECT_EQ(takeErrors(), kNoCellToDeductFrom);
     EXPECT_TRUE(type(4, 0, "1"));
     EXPECT_EQ(takeErrors(), "") << "a single weight has nothing to give";
-}
-
-TEST_F(editCells, keepsNormalizeWeightsAsItIs)
-{
-    const struct {
-        const char *mode, *after, *undone;
-    } cases[] = {
-        {"0", "0.8 0.12 0.08", "0.5 0.3 0.2"},
-        {"1", "0.8 0.12 0.08", "0.5 0.3 0.2"},
-        {"2", "0.8 0.3 0.2", "0.5 0.3 0.2"},
-    };
-    for (const auto &c : cases) {
-        mel(std::string("setAttr bodySkin.normalizeWeights ") + c.mode);
-        EXPECT_TRUE(type(1, 0, "0.8"));
-        EXPECT_EQ(weights(0), c.after) << c.mode;
-        EXPECT_EQ(melString("getAttr bodySkin.normalizeWeights"), c.mode);
-        mel("undo");
-        EXPECT_EQ(weights(0), c.undone) << c.mode;
-        EXPECT_EQ(melString("getAttr bodySkin.normalizeWeights"), c.mode);
-    }
 }
 
 TEST_F(editCells, hidesAndShowsColumnsAsTheWeightsGo)

@@ -59,10 +59,10 @@ TEST_F(prepareEdit, tellsWhatDoesNotFit)
         handOver_ = editHandOver();
         c.fill(handOver_);
         EXPECT_EQ(prepare(c.preparer), c.outcome) << c.what;
-        EXPECT_EQ(infos_.take(), c.info) << c.what;
+        EXPECT_EQ(takeInfos(), c.info) << c.what;
         EXPECT_EQ(takeErrors(), c.error) << c.what;
     }
-    EXPECT_EQ(weights("body"), "0.5 0.5; 0.5 0.5; 0.5 0.5; 0.5 0.5");
+    EXPECT_EQ(allWeights(), "0.5 0.5; 0.5 0.5; 0.5 0.5; 0.5 0.5");
 }
 
 // Joints of one name are common: a left and a right hand.
@@ -77,7 +77,7 @@ TEST_F(prepareEdit, tellsJointsOfOneNameApart)
     handOver_.floodValue = 0.25;
     ASSERT_EQ(prepare(prepareFlood), preparation::ready);
     EXPECT_TRUE(writeFlood(edit_));
-    EXPECT_EQ(weights("glove"), "0.75 0.25; 0.75 0.25; 0.75 0.25; 0.75 0.25");
+    EXPECT_EQ(allWeights("glove"), "0.75 0.25; 0.75 0.25; 0.75 0.25; 0.75 0.25");
 }
 
 TEST_F(prepareEdit, writesNothingWhenItFails)
@@ -85,9 +85,9 @@ TEST_F(prepareEdit, writesNothingWhenItFails)
     handOver_.pendingCells = {{1, 0}, {0, 0}, {2, 0}};
     handOver_.pendingValues = {0.1, 0.2, 0.3};
     EXPECT_EQ(prepare(prepareCells), preparation::failed);
-    EXPECT_EQ(infos_.take(), kNoEditableCell);
+    EXPECT_EQ(takeInfos(), kNoEditableCell);
     EXPECT_FALSE(replayDisplaced(edit_));
-    EXPECT_EQ(weights("body"), "0.5 0.5; 0.5 0.5; 0.5 0.5; 0.5 0.5");
+    EXPECT_EQ(allWeights(), "0.5 0.5; 0.5 0.5; 0.5 0.5; 0.5 0.5");
 }
 
 // Vertices go into one write, which warns once; the cells of a row keep their order.
@@ -124,7 +124,7 @@ TEST_F(prepareEdit, writesTheCellsOfAColumnTogether)
         ASSERT_EQ(prepare(prepareCells), preparation::ready);
         EXPECT_EQ(edit_.writes.size(), c.writes) << c.what;
         EXPECT_TRUE(writeCells(edit_));
-        EXPECT_EQ(weights("body"), std::string(c.weights) + "; 0.5 0.5") << c.what;
+        EXPECT_EQ(allWeights(), std::string(c.weights) + "; 0.5 0.5") << c.what;
         mel("select -r body.vtx[*]; skinPercent -tv hip 0.5 bodySkin; select -cl");
     }
 }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <map>
 #include <random>
 
@@ -60,8 +61,7 @@ protected:
         tableWeights all;
         for (const std::string &mesh : kMeshes) {
             for (int v = 0; v < kVertices; ++v)
-                all.push_back(melNumbers("skinPercent -q -v " + mesh + "Skin " + mesh + ".vtx[" +
-                                         std::to_string(v) + "]"));
+                all.push_back(exactWeights(v, mesh));
         }
         return all;
     }
@@ -112,104 +112,89 @@ protected:
         }
     }
 
-    void typeSomething()
-    {
-        static const char *const texts[] = {"0", "1", "0.25", "0.333", "+=0.1", "-=0.2", "*=0.5"};
-        selectSomeCells();
-        const QModelIndex first = view_->selectionModel()->selectedIndexes().first();
-        typeIntoSelection(first.row(), first.column(), texts[pick(int(std::size(texts)))]);
-    }
-    void smoothSomeVertices()
-    {
-        selectSomeCells();
-        call("applySmoothSkinWeights", pickWeight() * 0.3, 1 + pick(3));
-    }
-
-    // The name of the step that was taken.
-    std::string step()
-    {
-        typedef void (randomWalk::*stepFunction)();
-        struct namedStep {
-            const char *name;
-            stepFunction take;
-        };
-        static const namedStep steps[] = {
-            {"type", &randomWalk::typeSomething},
-            {"type", &randomWalk::typeSomething},
-            {"drag", &randomWalk::dragSomeCells},
-            {"drag column", &randomWalk::dragSomeColumn},
-            {"limit", &randomWalk::limitSomething},
-            {"flood", &randomWalk::floodSomeColumn},
-            {"smooth all", &randomWalk::smoothAll},
-            {"smooth vertices", &randomWalk::smoothSomeVertices},
-            {"paint smooth", &randomWalk::paintSmoothSomething},
-            {"round", &randomWalk::roundAll},
-            {"lock", &randomWalk::lockSomething},
-            {"unlock", &randomWalk::unlockSomething},
-            {"undo", &randomWalk::undoSteps},
-            {"undo and redo", &randomWalk::redoSteps},
-        };
-        const namedStep &chosen = steps[pick(int(std::size(steps)))];
-        (this->*chosen.take)();
-        return chosen.name;
-    }
-
-    void dragSomeCells()
-    {
-        selectSomeCells();
-        call("dragSlider", pickWeight() - 0.5, pick(2) == 0);
-    }
-    void dragSomeColumn()
-    {
-        selectColumn(pick(model_->columnCount()));
-        call("dragSlider", pickWeight() - 0.5, pick(2) == 0);
-    }
-    void limitSomething()
-    {
-        selectSomething();
-        call("setMaxValue", 1 + pick(3));
-        call("applyMaxInfluence");
-    }
-    void floodSomeColumn()
-    {
-        selectColumn(pick(model_->columnCount()));
-        call("replaceValue", pickWeight());
-    }
-    void smoothAll()
-    {
-        view_->clearSelection();
-        call("applySmoothSkinWeights", pickWeight() * 0.3, 1 + pick(3));
-    }
-    void paintSmoothSomething()
-    {
-        if (pick(2) == 0)
-            selectColumn(pick(model_->columnCount()));
-        else
-            selectSomeCells();
-        call("applySkinPaintSmooth", pickWeight());
-    }
-    void roundAll() { call("applyPrecision"); }
-    void lockSomething()
-    {
-        selectSomething();
-        call(pick(3) == 0 ? "newLockSelected" : "lockCell");
-    }
-    void unlockSomething()
-    {
-        selectSomething();
-        call(pick(3) == 0 ? "newUnlockAll" : pick(2) == 0 ? "newUnlockSelected" : "unlockCell");
-    }
+    void smooth() { call("applySmoothSkinWeights", pickWeight() * 0.3, 1 + pick(3)); }
     int undoCount() const { return std::stoi(undoItems()); }
     void undoSteps()
     {
         for (int i = pick(4); i > 0 && undoCount() > firstItem_; --i)
             mel("undo");
     }
-    void redoSteps()
+
+    // The name of the step that was taken.
+    std::string step()
     {
-        undoSteps();
-        for (int i = pick(4); i > 0 && melString("undoInfo -q -redoName") != ""; --i)
-            mel("redo");
+        const auto type = [this] {
+            static const char *const texts[] = {"0",     "1",     "0.25", "0.333",
+                                                "+=0.1", "-=0.2", "*=0.5"};
+            selectSomeCells();
+            const QModelIndex first = view_->selectionModel()->selectedIndexes().first();
+            typeIntoSelection(first.row(), first.column(), texts[pick(int(std::size(texts)))]);
+        };
+        const auto selectSomeColumn = [this] { selectColumn(pick(model_->columnCount())); };
+        const auto drag = [this] { call("dragSlider", pickWeight() - 0.5, pick(2) == 0); };
+        const std::pair<const char *, std::function<void()>> steps[] = {
+            {"type", type},
+            {"type", type},
+            {"drag",
+             [&] {
+                 selectSomeCells();
+                 drag();
+             }},
+            {"drag column",
+             [&] {
+                 selectSomeColumn();
+                 drag();
+             }},
+            {"limit",
+             [&] {
+                 selectSomething();
+                 call("setMaxValue", 1 + pick(3));
+                 call("applyMaxInfluence");
+             }},
+            {"flood",
+             [&] {
+                 selectSomeColumn();
+                 call("replaceValue", pickWeight());
+             }},
+            {"smooth all",
+             [&] {
+                 view_->clearSelection();
+                 smooth();
+             }},
+            {"smooth vertices",
+             [&] {
+                 selectSomeCells();
+                 smooth();
+             }},
+            {"paint smooth",
+             [&] {
+                 pick(2) == 0 ? selectSomeColumn() : selectSomeCells();
+                 call("applySkinPaintSmooth", pickWeight());
+             }},
+            {"round", [&] { call("applyPrecision"); }},
+            {"lock",
+             [&] {
+                 selectSomething();
+                 call(pick(3) == 0 ? "newLockSelected" : "lockCell");
+             }},
+            {"unlock",
+             [&] {
+                 static const char *const unlocks[] = {"newUnlockAll", "newUnlockSelected",
+                                                       "unlockCell"};
+                 selectSomething();
+                 call(unlocks[pick(3)]);
+             }},
+            {"undo", [&] { undoSteps(); }},
+            {"undo and redo",
+             [&] {
+                 undoSteps();
+                 for (int i = pick(4); i > 0 && melString("undoInfo -q -redoName") != ""; --i)
+                     mel("redo");
+             }},
+        };
+        const auto &chosen = steps[pick(int(std::size(steps)))];
+        chosen.second();
+        return chosen.first;
     }
 
     void expectWeights(const tableWeights &weights, const std::string &what) const
@@ -318,7 +303,7 @@ TEST_F(randomWalk, keepsWeightsTableAndUndoSound)
         }
         expectTable(end, "at the start again");
         takeErrors();
-        infos_.take();
+        takeInfos();
     }
     for (const char *name : {"type", "drag", "drag column", "limit", "flood", "smooth all",
                              "smooth vertices", "paint smooth", "round", "undo", "undo and redo"})

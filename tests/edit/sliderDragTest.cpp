@@ -63,10 +63,8 @@ TEST_F(sliderDrag, startsAnewWithEachSelection)
 
 TEST_F(sliderDrag, setsTheRightmostFreeCellOfEachRow)
 {
-    selectCells(2, 1, 2, 1);
-    call("lockCell");
-    selectRow(3);
-    call("newLockSelected");
+    lockCell(2, 1);
+    lockRow(3);
     selectCells(1, 0, 3, 1);
     drag(0.9, true);
     EXPECT_EQ(told(), "0.9 0.3 0.3");
@@ -79,7 +77,7 @@ TEST_F(sliderDrag, setsTheRightmostFreeCellOfEachRow)
         << "vtx[1] has but the edited weight and the locked one";
     drag(-1, true);
     EXPECT_EQ(weights(1), "0 0.25 0.75");
-    EXPECT_EQ(takeErrors() + infos_.take(), "");
+    EXPECT_EQ(takeErrors() + takeInfos(), "");
 }
 
 TEST_F(sliderDrag, passesOverWhatTheFilterHides)
@@ -116,22 +114,18 @@ TEST_F(sliderDrag, movesAWholeColumnFromItsTopmostWeight)
 
 TEST_F(sliderDrag, refusesAColumnBesideLocks)
 {
-    selectCells(2, 1, 2, 1);
-    call("lockCell");
+    lockCell(2, 1);
     selectColumn(0);
     drag(0.1);
-    EXPECT_EQ(infos_.take() + told(), "") << "a locked cell, in whatever column";
-    selectRow(3);
-    call("newLockSelected");
+    EXPECT_EQ(takeInfos() + told(), "") << "a locked cell, in whatever column";
+    lockRow(3);
     selectColumn(0);
     drag(0.1);
-    EXPECT_EQ(infos_.take(), kJointIsLocked);
+    EXPECT_EQ(takeInfos(), kJointIsLocked);
     call("newUnlockAll");
-    selectColumn(0);
-    call("newLockSelected");
-    selectColumn(0);
+    lockColumn(0);
     drag(0.1);
-    EXPECT_EQ(infos_.take(), kJointIsLocked);
+    EXPECT_EQ(takeInfos(), kJointIsLocked);
     EXPECT_EQ(weights(0) + weights(1), "0.5 0.3 0.20.25 0.25 0.5");
     selectColumn(1);
     drag(0.1);

@@ -15,7 +15,7 @@ protected:
     {
         const std::string held = weights(0);
         std::string rounded;
-        for (const double weight : melNumbers("skinPercent -q -v bodySkin body.vtx[0]")) {
+        for (const double weight : exactWeights(0)) {
             char digits[16];
             std::snprintf(digits, sizeof digits, "%s%.3f", rounded.empty() ? "" : " ", weight);
             rounded += digits;

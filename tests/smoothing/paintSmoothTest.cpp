@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "smoothing/smoothingScene.h"
 
-#include <QItemSelectionModel>
-
 #include "model/messages.h"
 
 class paintSmooth : public SmoothingScene
@@ -31,22 +29,21 @@ protected:
 TEST_F(paintSmooth, saysWhyItDoesNothing)
 {
     paint(0.5);
-    EXPECT_EQ(infos_.take(), kNoWeightListYet);
+    EXPECT_EQ(takeInfos(), kNoWeightListYet);
     loadStrip();
-    selectColumn(0);
-    call("newLockSelected");
+    lockColumn(0);
     const std::string items = undoItems();
     paint(0.5);
-    EXPECT_EQ(infos_.take(), kLockedJointToSmooth);
+    EXPECT_EQ(takeInfos(), kLockedJointToSmooth);
     selectCells(-1, -1, -1, -1);
     paint(0.5);
-    EXPECT_EQ(infos_.take(), kNoJointToSmooth);
+    EXPECT_EQ(takeInfos(), kNoJointToSmooth);
     selectCells(1, 0, 1, 1);
     paint(0.5);
-    EXPECT_EQ(infos_.take(), kCellsOfSeveralJoints);
+    EXPECT_EQ(takeInfos(), kCellsOfSeveralJoints);
     selectCells(0, 1, 0, 1);
     paint(0.5);
-    EXPECT_EQ(infos_.take(), kDataNotSetUp) << "a shape has no weight";
+    EXPECT_EQ(takeInfos(), kDataNotSetUp) << "a shape has no weight";
     EXPECT_EQ(undoItems(), items);
     EXPECT_EQ(weights(1), "0.8 0.15 0.05");
 }
@@ -54,15 +51,15 @@ TEST_F(paintSmooth, saysWhyItDoesNothing)
 TEST_F(paintSmooth, drawsTheJointTowardsItsNeighbours)
 {
     loadStrip();
-    const std::string before = all();
+    const std::string before = allWeights();
     selectCells(2, 0, 2, 0);
-    takeShown();
+    takeCommands();
     paint(0.5);
-    EXPECT_EQ(takeShown(), "korvexCmd -skinPaintSmooth");
+    EXPECT_EQ(takeCommands(), "korvexCmd -skinPaintSmooth");
     EXPECT_EQ(weights(1), "0.5 0.375 0.125");
     EXPECT_EQ(shown(2), "0.500 0.375 0.125");
     mel("undo");
-    EXPECT_EQ(all(), before);
+    EXPECT_EQ(allWeights(), before);
     EXPECT_EQ(shown(2), "0.800 0.150 0.050");
     mel("redo");
     EXPECT_EQ(weights(1), "0.5 0.375 0.125");
@@ -86,40 +83,37 @@ TEST_F(paintSmooth, paintsAWholeColumnOfAllItsShapesInOneStep)
     loadStrip("other");
     makeSkin("third", {"toe"}, {{1}, {1}, {1}, {1}});
     load("body other third");
-    const std::string before = all() + all("other");
+    const std::string before = allWeights() + allWeights("other");
     const std::string items = undoItems();
     selectColumn(0);
     takeErrors();
     paint(1);
-    EXPECT_EQ(infos_.take() + takeErrors(), "");
+    EXPECT_EQ(takeInfos() + takeErrors(), "");
     EXPECT_EQ(undoItems(), std::to_string(std::stoi(items) + 1));
     EXPECT_EQ(weights(1), "0.2 0.6 0.2");
-    EXPECT_EQ(all("other"), all());
+    EXPECT_EQ(allWeights("other"), allWeights());
     mel("undo");
-    EXPECT_EQ(all() + all("other"), before);
+    EXPECT_EQ(allWeights() + allWeights("other"), before);
 }
 
 TEST_F(paintSmooth, leavesOutLockedRowsAndCells)
 {
     loadStrip();
-    selectRow(1);
-    call("newLockSelected");
-    selectCells(2, 0, 2, 0);
-    call("lockCell");
+    lockRow(1);
+    lockCell(2, 0);
     selectCells(1, 0, 3, 0);
     paint(1);
     EXPECT_EQ(weights(0) + ", " + weights(1), "0.2 0.8 0, 0.8 0.15 0.05");
     EXPECT_EQ(weights(2), "0.933333 0.0666667 0");
     selectCells(1, 0, 2, 0);
     paint(1);
-    EXPECT_EQ(infos_.take(), kDataNotSetUp);
+    EXPECT_EQ(takeInfos(), kDataNotSetUp);
 }
 
 TEST_F(paintSmooth, endsWithLockedJointsFreeInMaya)
 {
     loadStrip();
-    selectColumn(2);
-    call("newLockSelected");
+    lockColumn(2);
     ASSERT_EQ(melString("getAttr ankle.liw"), "1");
     selectCells(2, 0, 2, 0);
     paint(0.5);
@@ -130,62 +124,21 @@ TEST_F(paintSmooth, endsWithLockedJointsFreeInMaya)
     EXPECT_EQ(weights(1), "0.5 0.45 0.05") << "held again";
 }
 
-TEST_F(paintSmooth, leavesTheUserToolSelectionAndWhatCanBePicked)
-{
-    loadStrip();
-    const struct {
-        const char *hands;
-        double opacity; // more than 1 is refused
-        const char *error;
-    } cases[] = {
-        {"select -cl; setToolTo moveSuperContext; selectType -ocm -alc 1", 0.5, ""},
-        {"select -r hip; setToolTo selectSuperContext; selectType -ocm -alc 0", 0.5, ""},
-        {"select -r body.vtx[3]; selectType -ocm -vertex 1", 0.5, ""},
-        {"select -r body; ArtPaintSkinWeightsTool", 0.5, ""},
-        {"select -r knee; setToolTo moveSuperContext; selectType -ocm -alc 0", 2, "out of range"},
-        {"select -r body.vtx[3]; selectType -ocm -alc 1", 2, "out of range"},
-    };
-    for (const auto &c : cases) {
-        call("setAutoUpdate", false);
-        mel(c.hands);
-        call("setAutoUpdate", true);
-        selectCells(2, 0, 2, 0);
-        const std::string hands = handsOfTheUser();
-        takeErrors();
-        paint(c.opacity);
-        EXPECT_NE(takeErrors().find(c.error), std::string::npos) << c.hands;
-        EXPECT_EQ(handsOfTheUser(), hands) << c.hands;
-        EXPECT_EQ(model_->rowCount(), 9) << c.hands;
-        EXPECT_EQ(view_->selectionModel()->selectedIndexes(), QModelIndexList{model_->index(2, 0)})
-            << c.hands;
-        EXPECT_EQ(weights(1) == "0.8 0.15 0.05", c.opacity > 1) << c.hands;
-        if (c.opacity > 1)
-            continue;
-        mel("undo");
-        EXPECT_EQ(weights(1), "0.8 0.15 0.05") << c.hands;
-        EXPECT_EQ(handsOfTheUser(), hands) << c.hands;
-        mel("redo");
-        EXPECT_EQ(handsOfTheUser(), hands) << c.hands;
-        mel("undo");
-    }
-}
-
 TEST_F(paintSmooth, floodsNothingWhenTheToolCannotBeSetUp)
 {
     loadStrip();
-    selectColumn(2);
-    call("newLockSelected");
+    lockColumn(2);
     selectCells(2, 0, 2, 0);
     paint(0.5);
     mel("undo");
-    const std::string before = all();
+    const std::string before = allWeights();
     mel("undoInfo -swf 0; rename hip pelvis; artSkinSelectInfluence artAttrSkinPaintCtx knee;"
         "undoInfo -swf 1");
     const std::string hands = handsOfTheUser();
     takeErrors();
     mel("catch(`redo`)");
     EXPECT_NE(takeErrors().find("No object matches name: hip"), std::string::npos);
-    EXPECT_EQ(all(), before) << "neither hip nor knee";
+    EXPECT_EQ(allWeights(), before) << "neither hip nor knee";
     EXPECT_EQ(handsOfTheUser(), hands);
     EXPECT_EQ(melString("getAttr ankle.liw"), "0");
 }
@@ -196,7 +149,7 @@ TEST_F(paintSmooth, saysThatTheJointIsGone)
     selectCells(2, 0, 2, 0);
     mel("delete hip");
     paint(0.5);
-    EXPECT_EQ(infos_.take(), kNoJointIndex);
+    EXPECT_EQ(takeInfos(), kNoJointIndex);
 }
 
 TEST_F(paintSmooth, tellsJointsOfOneNameApart)

@@ -17,18 +17,6 @@ protected:
     void smooth(double tolerance, int rounds) { call("applySmoothSkinWeights", tolerance, rounds); }
     void paint(double opacity) { call("applySkinPaintSmooth", opacity); }
 
-    // All vertices: "1 0 0; 0 1 0; ...".
-    static std::string all(const std::string &mesh = "body", int count = 8);
-
-    // What the Script Editor has shown of commands since the last call, a line each.
-    std::string takeShown();
-
     // Selection, components that can be picked, tool, what can be picked: as one text.
     static std::string handsOfTheUser();
-
-private:
-    static void keepShown(const MString &message, MCommandMessage::MessageType type, void *self);
-
-    std::string shown_;
-    MCallbackId shownCallback_;
 };

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/editScene.h"
 
-#include <cstdio>
-
 void EditScene::loadBody()
 {
     makeSkin("body", {"hip", "knee", "ankle"},
@@ -21,24 +19,30 @@ bool EditScene::typeIntoSelection(int row, int column, const std::string &text)
     return model_->setData(model_->index(row, column), QString::fromStdString(text));
 }
 
+void EditScene::lockCell(int row, int column)
+{
+    selectCells(row, column, row, column);
+    call("lockCell");
+}
+
+void EditScene::lockRow(int row)
+{
+    selectRow(row);
+    call("newLockSelected");
+}
+
+void EditScene::lockColumn(int column)
+{
+    selectColumn(column);
+    call("newLockSelected");
+}
+
 std::string EditScene::shown(int row) const
 {
     std::string text;
     for (int column = 0; column < model_->columnCount(); ++column)
         text +=
             (column > 0 ? " " : "") + cell(row, column, Qt::DisplayRole).toString().toStdString();
-    return text;
-}
-
-std::string EditScene::weights(int vertex, const std::string &mesh)
-{
-    std::string text;
-    for (const double weight : melNumbers("skinPercent -q -v " + mesh + "Skin " + mesh + ".vtx[" +
-                                          std::to_string(vertex) + "]")) {
-        char digits[32];
-        std::snprintf(digits, sizeof digits, "%s%.6g", text.empty() ? "" : " ", weight);
-        text += digits;
-    }
     return text;
 }
 

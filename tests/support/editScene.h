@@ -3,7 +3,6 @@
 #pragma once
 
 #include "support/editorScene.h"
-#include "support/infoRecorder.h"
 
 class EditScene : public EditorScene
 {
@@ -15,11 +14,13 @@ protected:
     bool type(int row, int column, const std::string &text);
     bool typeIntoSelection(int row, int column, const std::string &text);
 
-    // "0.500 0.300 0.200": cells of the table, and what the skin cluster holds.
+    // Selects that cell, row or column alone and locks it.
+    void lockCell(int row, int column);
+    void lockRow(int row);
+    void lockColumn(int column);
+
+    // The row's cells: "0.500 0.300 0.200".
     std::string shown(int row) const;
-    static std::string weights(int vertex, const std::string &mesh = "body");
 
     static std::string undoItems();
-
-    InfoRecorder infos_;
 };

@@ -2,7 +2,6 @@
 #include "support/editorScene.h"
 
 #include <algorithm>
-#include <sstream>
 #include <stdexcept>
 
 #include <QApplication>
@@ -74,28 +73,6 @@ EditorScene::~EditorScene()
     mel("file -f -new; unloadPlugin korvex");
 }
 
-void EditorScene::makeSkin(const std::string &mesh, const std::vector<std::string> &joints,
-                           const std::vector<std::vector<double>> &rows)
-{
-    std::ostringstream script;
-    script.precision(17);
-    for (const std::string &joint : joints) {
-        if (melString("objExists " + joint) == "0")
-            script << "select -cl; joint -n " << joint << ";\n";
-    }
-    const std::string skin = mesh + "Skin";
-    script << "polyPlane -sx " << rows.size() / 2 - 1 << " -sy 1 -n " << mesh << ";\n"
-           << "skinCluster -tsb -mi 5 -n " << skin << ' ' << joined(joints) << ' ' << mesh << ";\n"
-           << "setAttr " << skin << ".nw 0;\n";
-    for (std::size_t v = 0; v < rows.size(); ++v) {
-        for (std::size_t i = 0; i < joints.size(); ++i)
-            script << "setAttr " << skin << ".wl[" << v << "].w[" << i << "] " << rows[v][i]
-                   << ";\n";
-    }
-    script << "setAttr " << skin << ".nw 1; select -cl;";
-    mel(script.str());
-}
-
 std::string EditorScene::selectedInMaya()
 {
     return melStrings("ls -sl");
@@ -111,38 +88,6 @@ void EditorScene::load(const std::string &names)
     if (!names.empty())
         mel("select -r " + names);
     call("refreshSkinClusterData");
-}
-
-void EditorScene::call(const char *slot)
-{
-    EXPECT_TRUE(QMetaObject::invokeMethod(model_, slot)) << slot;
-}
-
-void EditorScene::call(const char *slot, bool argument)
-{
-    EXPECT_TRUE(QMetaObject::invokeMethod(model_, slot, Q_ARG(bool, argument))) << slot;
-}
-
-void EditorScene::call(const char *slot, int argument)
-{
-    EXPECT_TRUE(QMetaObject::invokeMethod(model_, slot, Q_ARG(int, argument))) << slot;
-}
-
-void EditorScene::call(const char *slot, double argument)
-{
-    EXPECT_TRUE(QMetaObject::invokeMethod(model_, slot, Q_ARG(double, argument))) << slot;
-}
-
-void EditorScene::call(const char *slot, double first, bool second)
-{
-    EXPECT_TRUE(QMetaObject::invokeMethod(model_, slot, Q_ARG(double, first), Q_ARG(bool, second)))
-        << slot;
-}
-
-void EditorScene::call(const char *slot, double first, int second)
-{
-    EXPECT_TRUE(QMetaObject::invokeMethod(model_, slot, Q_ARG(double, first), Q_ARG(int, second)))
-        << slot;
 }
 
 std::string EditorScene::picture() const

@@ -3,7 +3,6 @@
 // find them, by their class names, and driven through their slots and Qt's interfaces.
 #pragma once
 
-#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -22,11 +21,6 @@ protected:
     ~EditorScene() override;
 
     // --- The scene ----------------------------------------------------------------------------
-    // A plane named `mesh` with a vertex per line of `rows`, an even number from 4 on, bound to
-    // `joints` (made if they are not there) by a skin cluster MESHSkin that holds exactly these
-    // weights, a column per joint.
-    static void makeSkin(const std::string &mesh, const std::vector<std::string> &joints,
-                         const std::vector<std::vector<double>> &rows);
     static std::string selectedInMaya(); // "body.vtx[3] hip"
     static std::string hilitedInMaya();
 
@@ -34,12 +28,13 @@ protected:
     // Selects and loads. Without names: loads what is selected.
     void load(const std::string &names = std::string());
     // Calls a slot of the model; returns nothing because none of them does.
-    void call(const char *slot);
-    void call(const char *slot, bool argument);
-    void call(const char *slot, int argument);
-    void call(const char *slot, double argument);
-    void call(const char *slot, double first, bool second);
-    void call(const char *slot, double first, int second);
+    template <typename... Types>
+    void call(const char *slot, Types... arguments)
+    {
+        EXPECT_TRUE(QMetaObject::invokeMethod(
+            model_, slot, QArgument<Types>(QMetaType::fromType<Types>().name(), arguments)...))
+            << slot;
+    }
 
     // Headers and cells:
     //              | hip   | knee

@@ -2,6 +2,7 @@
 #include "support/mayaSession.h"
 
 #include <iostream>
+#include <sstream>
 
 #include <QApplication>
 
@@ -89,26 +90,62 @@ std::string MayaSession::melError(const std::string &script)
     return takeErrors();
 }
 
-std::string MayaSession::takeErrors()
+void MayaSession::makeSkin(const std::string &mesh, const std::vector<std::string> &joints,
+                           const std::vector<std::vector<double>> &rows)
 {
-    std::string taken;
-    taken.swap(errors_);
-    return taken;
+    std::ostringstream script;
+    script.precision(17);
+    std::string names;
+    for (const std::string &joint : joints) {
+        names += joint + ' ';
+        if (melString("objExists " + joint) == "0")
+            script << "select -cl; joint -n " << joint << ";\n";
+    }
+    const std::string skin = mesh + "Skin";
+    script << "polyPlane -sx " << rows.size() / 2 - 1 << " -sy 1 -n " << mesh << ";\n"
+           << "skinCluster -tsb -mi 5 -n " << skin << ' ' << names << mesh << ";\n"
+           << "setAttr " << skin << ".nw 0;\n";
+    for (std::size_t v = 0; v < rows.size(); ++v) {
+        for (std::size_t i = 0; i < joints.size(); ++i)
+            script << "setAttr " << skin << ".wl[" << v << "].w[" << i << "] " << rows[v][i]
+                   << ";\n";
+    }
+    script << "setAttr " << skin << ".nw 1; select -cl;";
+    mel(script.str());
 }
 
-std::string MayaSession::takeWarnings()
+std::vector<double> MayaSession::exactWeights(int vertex, const std::string &mesh)
+{
+    return melNumbers("skinPercent -q -v " + mesh + "Skin " + mesh + ".vtx[" +
+                      std::to_string(vertex) + "]");
+}
+
+std::string MayaSession::weights(int vertex, const std::string &mesh)
+{
+    std::ostringstream text;
+    for (const double weight : exactWeights(vertex, mesh))
+        text << (text.tellp() > 0 ? " " : "") << weight;
+    return text.str();
+}
+
+std::string MayaSession::allWeights(const std::string &mesh)
+{
+    std::string text;
+    const int count = std::stoi(melString("getAttr -size " + mesh + "Skin.wl"));
+    for (int vertex = 0; vertex < count; ++vertex)
+        text += (vertex > 0 ? "; " : "") + weights(vertex, mesh);
+    return text;
+}
+
+std::string MayaSession::take(MCommandMessage::MessageType type)
 {
     std::string taken;
-    taken.swap(warnings_);
+    taken.swap(shown_[type]);
     return taken;
 }
 
 void MayaSession::keepMessage(const MString &message, MCommandMessage::MessageType type, void *self)
 {
-    MayaSession &session = *static_cast<MayaSession *>(self);
-    std::string *kept = type == MCommandMessage::kError     ? &session.errors_
-                        : type == MCommandMessage::kWarning ? &session.warnings_
-                                                            : nullptr;
-    if (kept)
-        *kept += (kept->empty() ? "" : "\n") + std::string(message.asUTF8());
+    std::string &shown = static_cast<MayaSession *>(self)->shown_[type];
+    shown += (shown.empty() ? "" : "\n") + std::string(message.asUTF8());
 }

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
-// A running Maya for tests: each test gets an empty scene, MEL, and what Maya shows meanwhile.
+// A running Maya for tests: each test gets an empty scene, MEL, skins, and what Maya shows
+// meanwhile.
 //
 // Only Maya's own API, MEL and Qt are used, nothing that only the host has: the same tests can be
 // linked to a real Maya.
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -30,14 +32,26 @@ protected:
     // Runs MEL that must fail and gives the errors that it shows, a line each.
     std::string melError(const std::string &script);
 
-    // The errors, or warnings, shown since the last call: a line each, without Maya's frame.
-    std::string takeErrors();
-    std::string takeWarnings();
+    // A plane named `mesh` with a vertex per line of `rows`, an even number from 4 on, bound to
+    // `joints` (made if they are not there) by a skin cluster MESHSkin that holds exactly these
+    // weights, a column per joint.
+    static void makeSkin(const std::string &mesh, const std::vector<std::string> &joints,
+                         const std::vector<std::vector<double>> &rows);
+    // What MESHSkin holds of a vertex, and as text: "0.5 0.3 0.2". Of all: "0.5 0.3 0.2; 0 0 1".
+    static std::vector<double> exactWeights(int vertex, const std::string &mesh = "body");
+    static std::string weights(int vertex, const std::string &mesh = "body");
+    static std::string allWeights(const std::string &mesh = "body");
+
+    // What was shown since the last call of its kind, a line each, without Maya's frame.
+    std::string takeErrors() { return take(MCommandMessage::kError); }
+    std::string takeWarnings() { return take(MCommandMessage::kWarning); }
+    std::string takeInfos() { return take(MCommandMessage::kInfo); }
+    std::string takeCommands() { return take(MCommandMessage::kHistory); }
 
 private:
     static void keepMessage(const MString &message, MCommandMessage::MessageType type, void *self);
+    std::string take(MCommandMessage::MessageType type);
 
-    std::string errors_;
-    std::string warnings_;
+    std::map<MCommandMessage::MessageType, std::string> shown_;
     MCallbackId callback_;
 };

@@ -86,8 +86,7 @@ TEST_F(influencesAndPrecision, stayAsTheyAreWhenAPrecisionIsRefused)
         EXPECT_EQ(takeErrors(), kMalformedPrecision) << text;
         EXPECT_EQ(state(), before) << text;
     }
-    selectCells(2, 2, 2, 2);
-    call("lockCell");
+    lockCell(2, 2);
     view_->setColumnWidth(0, 99);
     enter("precisionEdit", "0.01");
     EXPECT_EQ(takeErrors(), kPrecisionWhileLocked);
@@ -107,8 +106,7 @@ TEST_F(influencesAndPrecision, keepTheCopyOfTheLastChangeThatWasMade)
 {
     enter("precisionEdit", "0.01");
     EXPECT_EQ(shown(3), "0.33 0.33 0.34");
-    selectCells(2, 2, 2, 2);
-    call("lockCell");
+    lockCell(2, 2);
     takeErrors();
     enter("precisionEdit", "0.1");
     EXPECT_EQ(takeErrors(), kPrecisionWhileLocked);

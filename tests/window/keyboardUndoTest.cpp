@@ -211,7 +211,7 @@ TEST_F(keyboardUndo, takesBackAndRestoresWhatEachControlDid)
 
             call("newUnlockAll");
             takeErrors();
-            infos_.take();
+            takeInfos();
             load("body");
         }
     }
@@ -305,7 +305,7 @@ TEST_F(keyboardUndo, isNotAboutAControlThatHasRefused)
         click("Filter");
         each.act();
         takeErrors();
-        infos_.take();
+        takeInfos();
         press(Qt::Key_Z);
         EXPECT_EQ(weights(0) + hiddenColumns(), typed) << each.what;
     }
@@ -316,8 +316,7 @@ TEST_F(keyboardUndo, triesAgainWhatWasRefused)
 {
     enter("precisionEdit", "0.01");
     const std::string coarse = shown(3);
-    selectCells(1, 0, 1, 0);
-    call("lockCell");
+    lockCell(1, 0);
     press(Qt::Key_Z);
     EXPECT_EQ(takeErrors() + shown(3), kPrecisionWhileLocked + coarse);
     call("unlockCell");

@@ -112,8 +112,7 @@ TEST_F(tableTyping, goesToTheFirstCellThatCanBeEdited)
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         QTest::qWait(1);
     }
-    selectColumn(1);
-    call("newLockSelected");
+    lockColumn(1);
     selectCells(1, 1, 2, 2);
     EXPECT_EQ(editorAfter(Qt::Key_7), "7");
     EXPECT_EQ(view_->currentIndex(), model_->index(1, 2)) << "behind a locked column";
@@ -133,8 +132,7 @@ TEST_F(tableTyping, showsTheCellThatItOpens)
 // Nor does the view look for a cell that begins with the key, and select that.
 TEST_F(tableTyping, opensNothingWhereAllIsLocked)
 {
-    selectRow(1);
-    call("newLockSelected");
+    lockRow(1);
     EXPECT_EQ(editorAfter(Qt::Key_1), "-");
     EXPECT_EQ(selectedRows(), "1");
     view_->clearSelection();
