@@ -6,10 +6,6 @@
 
 #include "guide/guideScene.h"
 
-#include <QComboBox>
-#include <QHeaderView>
-#include <QRadioButton>
-
 namespace
 {
 
@@ -26,28 +22,6 @@ protected:
     {
         clickCell(first + 1, column);
         clickCell(last + 1, column, Qt::ShiftModifier);
-    }
-    void clickColumnHeader(int column)
-    {
-        QHeaderView *header = view_->horizontalHeader();
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          QPoint(header->sectionViewportPosition(column) + 5, 5));
-    }
-    void clickRowHeader(int vertex)
-    {
-        QHeaderView *header = view_->verticalHeader();
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          QPoint(5, header->sectionViewportPosition(vertex + 1) + 5));
-    }
-    void choose(const char *operation)
-    {
-        control<QComboBox>("floodOperation").setCurrentText(QLatin1String(operation));
-    }
-    double weight(int vertex, const char *joint)
-    {
-        return melNumbers(std::string("skinPercent -t ") + joint + " -q bodySkin body.vtx[" +
-                          std::to_string(vertex) + "]")
-            .front();
     }
 };
 
@@ -73,10 +47,10 @@ TEST_F(guide, edit)
     ASSERT_NE(editor, nullptr);
     QTest::keyClicks(editor, "=0.2");
     const QImage typing = shot("LoadComponent");
-    const double before = weight(4, "spine");
+    const double before = exactWeights(4)[spine];
     QTest::keyClick(editor, Qt::Key_Return);
     QCoreApplication::processEvents();
-    EXPECT_NEAR(weight(4, "spine"), before + 0.2, 1e-3);
+    EXPECT_NEAR(exactWeights(4)[spine], before + 0.2, 1e-3);
     save("edit", {typing, shot("LoadComponent")});
 }
 
@@ -84,26 +58,26 @@ TEST_F(guide, drag)
 {
     selectVertices(1, 4, spine);
     const QImage before = shot("LoadComponent");
-    control<QRadioButton>("absolute").click();
+    click("absolute");
     dragTo("valueSlider", 400);
-    EXPECT_NEAR(weight(1, "spine"), 0.4, 1e-9);
-    EXPECT_NEAR(weight(4, "spine"), 0.4, 1e-9);
+    EXPECT_NEAR(exactWeights(1)[spine], 0.4, 1e-9);
+    EXPECT_NEAR(exactWeights(4)[spine], 0.4, 1e-9);
     save("drag", {before, shot("LoadComponent")});
 }
 
 TEST_F(guide, lock)
 {
-    clickColumnHeader(chest);
+    clickHeader(Qt::Horizontal, chest);
     click("Lock");
-    clickRowHeader(2);
+    clickHeader(Qt::Vertical, 3);
     click("Lock");
     clickCell(6, leftArm);
     click("Lock");
     clickCell(7, hips);
-    const double before = weight(5, "leftArm");
+    const double before = exactWeights(5)[leftArm];
     clickCell(6, spine);
     typeKeys("0.5");
-    EXPECT_NEAR(weight(5, "leftArm"), before, 1e-9);
+    EXPECT_NEAR(exactWeights(5)[leftArm], before, 1e-9);
     save("lock", {shot("LoadComponent")});
 }
 
@@ -111,7 +85,7 @@ TEST_F(guide, round)
 {
     enter("precisionEdit", "0.01");
     click("RoundPrecision");
-    EXPECT_EQ(weight(0, "hips"), std::round(weight(0, "hips") * 100.0) / 100.0);
+    EXPECT_EQ(exactWeights(0)[hips], std::round(exactWeights(0)[hips] * 100.0) / 100.0);
     save("round", {shot()});
 }
 
@@ -120,45 +94,45 @@ TEST_F(guide, limit)
     enter("maxInfluenceEdit", "2");
     const QImage marked = shot();
     click("ApplyInfluence");
-    EXPECT_EQ(weight(0, "chest") + weight(0, "leftArm") + weight(0, "rightArm"), 0.0);
+    EXPECT_EQ(exactWeights(0)[chest] + exactWeights(0)[leftArm] + exactWeights(0)[rightArm], 0.0);
     save("limit", {marked, shot()});
 }
 
 TEST_F(guide, flood)
 {
-    clickColumnHeader(head);
-    choose("Replace(Per Influence)");
+    clickHeader(Qt::Horizontal, head);
+    chooseOperation(replaceInfluence);
     enter("floodValueEdit", "0.25");
     click("Apply");
-    EXPECT_NEAR(weight(5, "head"), 0.25, 1e-9);
+    EXPECT_NEAR(exactWeights(5)[head], 0.25, 1e-9);
     save("flood", {shot()});
 }
 
 TEST_F(guide, smooth)
 {
-    clickColumnHeader(hips);
-    choose("Smooth(Per Influence)");
-    const double before = weight(2, "hips");
+    clickHeader(Qt::Horizontal, hips);
+    chooseOperation(smoothInfluence);
+    const double before = exactWeights(2)[hips];
     click("Apply");
-    EXPECT_NE(weight(2, "hips"), before);
+    EXPECT_NE(exactWeights(2)[hips], before);
     mel("undo");
     view_->clearSelection();
-    choose("Smooth Skin Weight");
+    chooseOperation(smoothWeights);
     enter("requiredWeightDifferenceEdit", "0.01");
     click("Apply");
-    EXPECT_NE(weight(2, "hips"), before);
+    EXPECT_NE(exactWeights(2)[hips], before);
     save("smooth", {shot()});
 }
 
 TEST_F(guide, undo)
 {
     selectVertices(1, 4, spine);
-    const double before = weight(2, "spine");
+    const double before = exactWeights(2)[spine];
     typeKeys("0.5");
     const QImage typed = shot("LoadComponent");
     QTest::keyClick(view_, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_NEAR(weight(2, "spine"), before, 1e-9);
+    EXPECT_NEAR(exactWeights(2)[spine], before, 1e-9);
     save("undo", {typed, shot("LoadComponent")});
     QTest::keyClick(view_, Qt::Key_Y, Qt::ControlModifier);
-    EXPECT_NEAR(weight(2, "spine"), 0.5, 1e-9);
+    EXPECT_NEAR(exactWeights(2)[spine], 0.5, 1e-9);
 }

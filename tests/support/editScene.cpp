@@ -41,8 +41,15 @@ std::string EditScene::shown(int row) const
 {
     std::string text;
     for (int column = 0; column < model_->columnCount(); ++column)
-        text +=
-            (column > 0 ? " " : "") + cell(row, column, Qt::DisplayRole).toString().toStdString();
+        text += (column > 0 ? " " : "") + cellText(row, column);
+    return text;
+}
+
+std::string EditScene::shownColumn(int column) const
+{
+    std::string text;
+    for (int row = 1; row < model_->rowCount(); ++row)
+        text += (row > 1 ? " " : "") + cellText(row, column);
     return text;
 }
 

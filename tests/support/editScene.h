@@ -19,8 +19,9 @@ protected:
     void lockRow(int row);
     void lockColumn(int column);
 
-    // The row's cells: "0.500 0.300 0.200".
+    // The cells of a row, or the vertices' of a column: "0.500 0.300 0.200".
     std::string shown(int row) const;
+    std::string shownColumn(int column) const;
 
     static std::string undoItems();
 };

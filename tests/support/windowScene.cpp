@@ -3,6 +3,8 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QSlider>
 
@@ -36,6 +38,20 @@ void WindowScene::clickCell(int row, int column, Qt::KeyboardModifiers modifiers
 {
     const QPoint centre = view_->visualRect(model_->index(row, column)).center();
     QTest::mouseClick(view_->viewport(), Qt::LeftButton, modifiers, centre);
+}
+
+void WindowScene::clickHeader(Qt::Orientation orientation, int section)
+{
+    QHeaderView &header =
+        *(orientation == Qt::Vertical ? view_->verticalHeader() : view_->horizontalHeader());
+    const int at = header.sectionViewportPosition(section) + header.sectionSize(section) / 2;
+    QTest::mouseClick(header.viewport(), Qt::LeftButton, Qt::NoModifier,
+                      orientation == Qt::Vertical ? QPoint(5, at) : QPoint(at, 5));
+}
+
+void WindowScene::chooseOperation(int operation)
+{
+    control<QComboBox>("floodOperation").setCurrentIndex(operation);
 }
 
 bool WindowScene::isLocked(int row, int column) const

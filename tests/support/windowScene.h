@@ -30,6 +30,9 @@ protected:
 
     void click(const char *button);
     void clickCell(int row, int column, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void clickHeader(Qt::Orientation orientation, int section);
+    enum floodOperation { smoothWeights, smoothInfluence, replaceInfluence };
+    void chooseOperation(int operation);
 
     bool isLocked(int row, int column) const;
 

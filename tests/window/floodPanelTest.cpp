@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <QComboBox>
 #include <QLineEdit>
 #include <QSlider>
 
@@ -9,38 +8,30 @@
 class floodPanel : public WindowScene
 {
 protected:
-    enum operation { smooth, smoothInfluence, replace };
-
     floodPanel() { loadBody(); }
 
-    void choose(operation chosen) { control<QComboBox>("floodOperation").setCurrentIndex(chosen); }
     bool isEnabled(const std::string &name)
     {
         return control<QWidget>((name + "Edit").c_str()).isEnabled() &&
                control<QWidget>((name + "Slider").c_str()).isEnabled();
     }
-    std::string column(int column) const
-    {
-        return cellText(1, column) + ' ' + cellText(2, column) + ' ' + cellText(3, column) + ' ' +
-               cellText(4, column);
-    }
 };
 
 TEST_F(floodPanel, offersTheSettingsOfTheOperation)
 {
-    for (const operation chosen : {replace, smooth, smoothInfluence, smooth}) {
-        choose(chosen);
-        EXPECT_EQ(isEnabled("requiredWeightDifference"), chosen == smooth);
-        EXPECT_EQ(isEnabled("smoothingIterations"), chosen == smooth);
-        EXPECT_EQ(isEnabled("opacity"), chosen != smooth);
-        EXPECT_EQ(isEnabled("floodValue"), chosen != smooth);
+    for (const int chosen : {replaceInfluence, smoothWeights, smoothInfluence, smoothWeights}) {
+        chooseOperation(chosen);
+        EXPECT_EQ(isEnabled("requiredWeightDifference"), chosen == smoothWeights);
+        EXPECT_EQ(isEnabled("smoothingIterations"), chosen == smoothWeights);
+        EXPECT_EQ(isEnabled("opacity"), chosen != smoothWeights);
+        EXPECT_EQ(isEnabled("floodValue"), chosen != smoothWeights);
     }
     EXPECT_EQ(takeErrors(), "");
 }
 
 TEST_F(floodPanel, saysThatThereIsNoSuchOperation)
 {
-    control<QComboBox>("floodOperation").setCurrentIndex(-1);
+    chooseOperation(-1);
     EXPECT_EQ(takeErrors(), kNoFloodOperation);
     EXPECT_TRUE(isEnabled("smoothingIterations"));
     click("Apply");
@@ -49,18 +40,18 @@ TEST_F(floodPanel, saysThatThereIsNoSuchOperation)
 
 TEST_F(floodPanel, replacesByTheValueTimesTheOpacity)
 {
-    choose(replace);
+    chooseOperation(replaceInfluence);
     enter("opacityEdit", "0.5");
     enter("floodValueEdit", "0.8");
     selectColumn(1);
     click("Apply");
-    EXPECT_EQ(column(1), "0.400 0.400 0.400 0.400");
+    EXPECT_EQ(shownColumn(1), "0.400 0.400 0.400 0.400");
     EXPECT_EQ(weights(3), "0.6 0.4 0");
     mel("undo");
     EXPECT_EQ(weights(3), "1 0 0");
     enter("floodValueEdit", "7"); // whatever is beyond a weight is cut
     click("Apply");
-    EXPECT_EQ(column(1), "1.000 1.000 1.000 1.000");
+    EXPECT_EQ(shownColumn(1), "1.000 1.000 1.000 1.000");
 }
 
 TEST_F(floodPanel, smoothsTheSelectedRowsAsOftenAsSaid)
@@ -68,58 +59,58 @@ TEST_F(floodPanel, smoothsTheSelectedRowsAsOftenAsSaid)
     selectCells(1, 0, 4, 2);
     enter("smoothingIterationsEdit", "1");
     click("Apply");
-    const std::string once = column(0);
+    const std::string once = shownColumn(0);
     EXPECT_NE(once, "0.500 0.250 0.334 1.000");
     mel("undo");
     enter("smoothingIterationsEdit", "50");
     click("Apply");
-    EXPECT_NE(column(0), once);
+    EXPECT_NE(shownColumn(0), once);
     mel("undo");
     enter("requiredWeightDifferenceEdit", "1");
     click("Apply");
-    EXPECT_EQ(column(0), "0.500 0.250 0.334 1.000") << "no weight jumps by 1";
+    EXPECT_EQ(shownColumn(0), "0.500 0.250 0.334 1.000") << "no weight jumps by 1";
     EXPECT_EQ(takeErrors(), "");
 }
 
 TEST_F(floodPanel, smoothsOneJointByWhatOpacityLeaves)
 {
-    choose(smoothInfluence);
+    chooseOperation(smoothInfluence);
     selectColumn(0);
     enter("opacityEdit", "0");
     click("Apply");
-    EXPECT_EQ(column(0), "0.500 0.250 0.334 1.000");
+    EXPECT_EQ(shownColumn(0), "0.500 0.250 0.334 1.000");
     enter("opacityEdit", "1");
     click("Apply");
-    const std::string whole = column(0);
+    const std::string whole = shownColumn(0);
     EXPECT_NE(whole, "0.500 0.250 0.334 1.000");
     mel("undo");
     enter("opacityEdit", "0.5");
     click("Apply");
-    EXPECT_NE(column(0), whole);
+    EXPECT_NE(shownColumn(0), whole);
     EXPECT_EQ(takeErrors(), "");
 }
 
 TEST_F(floodPanel, refusesSettingsThatAreNoNumbersOrOutOfRange)
 {
     const struct {
-        operation chosen;
+        int chosen;
         const char *edit;
         const char *text;
         const char *error;
     } cases[] = {
-        {smooth, "requiredWeightDifferenceEdit", "", kInvalidSmoothing},
-        {smooth, "requiredWeightDifferenceEdit", "nan", kInvalidSmoothing},
-        {smooth, "smoothingIterationsEdit", "2.5", kInvalidSmoothing},
-        {smooth, "smoothingIterationsEdit", "many", kInvalidSmoothing},
-        {replace, "opacityEdit", "1.5", kInvalidOpacity},
-        {replace, "opacityEdit", "-0.1", kInvalidOpacity},
-        {replace, "opacityEdit", "nan", kInvalidOpacity},
-        {replace, "floodValueEdit", "inf", kInvalidOpacity},
+        {smoothWeights, "requiredWeightDifferenceEdit", "", kInvalidSmoothing},
+        {smoothWeights, "requiredWeightDifferenceEdit", "nan", kInvalidSmoothing},
+        {smoothWeights, "smoothingIterationsEdit", "2.5", kInvalidSmoothing},
+        {smoothWeights, "smoothingIterationsEdit", "many", kInvalidSmoothing},
+        {replaceInfluence, "opacityEdit", "1.5", kInvalidOpacity},
+        {replaceInfluence, "opacityEdit", "-0.1", kInvalidOpacity},
+        {replaceInfluence, "opacityEdit", "nan", kInvalidOpacity},
+        {replaceInfluence, "floodValueEdit", "inf", kInvalidOpacity},
         {smoothInfluence, "opacityEdit", "1.0001", kInvalidOpacity},
         {smoothInfluence, "floodValueEdit", "x", kInvalidOpacity},
     };
     for (const auto &each : cases) {
-        choose(each.chosen);
+        chooseOperation(each.chosen);
         selectColumn(0);
         const QString valid = control<QLineEdit>(each.edit).text();
         enter(each.edit, QLatin1String(each.text));
@@ -148,7 +139,7 @@ TEST_F(floodPanel, movesSlidersToWhatIsEntered)
     };
     for (const auto &each : cases) {
         const std::string row = each.row;
-        choose(row == "opacity" || row == "floodValue" ? replace : smooth);
+        chooseOperation(row == "opacity" || row == "floodValue" ? replaceInfluence : smoothWeights);
         enter((row + "Edit").c_str(), QLatin1String(each.text));
         EXPECT_EQ(stepOf((row + "Slider").c_str()), each.step) << row << ' ' << each.text;
         EXPECT_EQ(textOf((row + "Edit").c_str()), each.text);
@@ -178,7 +169,7 @@ TEST_F(floodPanel, writesWhatSlidersAreDraggedTo)
 // The edit is what counts, and must not keep another number than its slider shows.
 TEST_F(floodPanel, writesWhatKeysMoveSlidersTo)
 {
-    choose(replace);
+    chooseOperation(replaceInfluence);
     QSlider &slider = control<QSlider>("opacitySlider");
     slider.setFocus();
     QTest::keyClick(&slider, Qt::Key_PageDown);

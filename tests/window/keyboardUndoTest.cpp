@@ -9,9 +9,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
-#include <QComboBox>
 #include <QLineEdit>
-#include <QRadioButton>
 #include <QSlider>
 
 #include "model/messages.h"
@@ -41,7 +39,7 @@ protected:
 
     void smoothBy(int operation, const char *opacity = "1.000")
     {
-        control<QComboBox>("floodOperation").setCurrentIndex(operation);
+        chooseOperation(operation);
         if (operation > 0)
             enter("opacityEdit", opacity);
     }
@@ -72,16 +70,16 @@ std::vector<keyboardUndo::useOfControl> keyboardUndo::controlsThatWriteWeights()
     return {
         {"ApplyInfluence", [this] { enter("maxInfluenceEdit", "2"); },
          [this] { click("ApplyInfluence"); }},
-        {"Apply: smooth", [this] { smoothBy(0); }, flood},
+        {"Apply: smooth", [this] { smoothBy(smoothWeights); }, flood},
         {"Apply: smooth an influence",
          [=] {
-             smoothBy(1);
+             smoothBy(smoothInfluence);
              column();
          },
          flood},
         {"Apply: replace",
          [=] {
-             smoothBy(2, "0.5");
+             smoothBy(replaceInfluence, "0.5");
              column();
          },
          flood},
@@ -115,16 +113,16 @@ std::vector<keyboardUndo::useOfControl> keyboardUndo::otherControls()
         {"precisionEdit", nothing, [this] { enter("precisionEdit", "0.01"); }},
         {"LoadComponent", [this] { mel("select -r body.vtx[1:2]"); },
          [this] { click("LoadComponent"); }},
-        floodSetting(0, "requiredWeightDifference", "0.5"),
-        floodSetting(0, "smoothingIterations", "9"),
-        floodSetting(1, "opacity", "0.25"),
-        floodSetting(1, "floodValue", "0.125"),
+        floodSetting(smoothWeights, "requiredWeightDifference", "0.5"),
+        floodSetting(smoothWeights, "smoothingIterations", "9"),
+        floodSetting(smoothInfluence, "opacity", "0.25"),
+        floodSetting(smoothInfluence, "floodValue", "0.125"),
         {"requiredWeightDifferenceSlider", nothing,
          [this] { dragTo("requiredWeightDifferenceSlider", 4000); }},
         {"smoothingIterationsSlider", nothing, [this] { dragTo("smoothingIterationsSlider", 8); }},
         {"opacitySlider", nothing, [this] { dragTo("opacitySlider", 3000); }},
         {"floodValueSlider", nothing, [this] { dragTo("floodValueSlider", 2000); }},
-        {"absolute", nothing, [this] { control<QRadioButton>("absolute").click(); }},
+        {"absolute", nothing, [this] { click("absolute"); }},
         {"Filter", nothing, [this] { click("Filter"); }},
         {"Highlight", nothing, [this] { click("Highlight"); }},
         {"Lock", cells, [this] { click("Lock"); }},
@@ -287,7 +285,7 @@ TEST_F(keyboardUndo, isNotAboutAControlThatHasRefused)
     clickCell(1, 0);
     typeKeys("0.7");
     const std::string typed = weights(0);
-    smoothBy(2);
+    smoothBy(replaceInfluence);
     const struct {
         const char *what;
         std::function<void()> act;

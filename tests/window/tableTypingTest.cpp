@@ -79,9 +79,7 @@ TEST_F(tableTyping, appliesToAllSelectedCells)
         selectCells(1, 0, 3, 0);
         const std::string items = undoItems();
         typeKeys(each.keys, each.confirm);
-        EXPECT_EQ(cellText(1, 0) + ' ' + cellText(2, 0) + ' ' + cellText(3, 0) + ' ' +
-                      cellText(4, 0),
-                  each.column);
+        EXPECT_EQ(shownColumn(0), each.column);
         if (each.confirm != Qt::Key_Escape)
             mel("undo");
         EXPECT_EQ(undoItems(), items) << each.keys << ": one step";

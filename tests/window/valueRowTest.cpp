@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 //
 // Setting and moving the selected weights.
-#include <QAbstractButton>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QSlider>
 
@@ -20,14 +18,6 @@ protected:
         return std::to_string(stepOf("valueSlider")) + " [" + textOf("valueEdit") + "]";
     }
     void setAbsolute(bool isAbsolute) { click(isAbsolute ? "absolute" : "relative"); }
-    void clickHeader(Qt::Orientation orientation, int section)
-    {
-        QHeaderView &header =
-            *(orientation == Qt::Vertical ? view_->verticalHeader() : view_->horizontalHeader());
-        const int at = header.sectionViewportPosition(section) + header.sectionSize(section) / 2;
-        QTest::mouseClick(header.viewport(), Qt::LeftButton, Qt::NoModifier,
-                          orientation == Qt::Vertical ? QPoint(5, at) : QPoint(at, 5));
-    }
 };
 
 TEST_F(valueRow, movesWeightsByTheWholeDifferenceSinceTheSelection)
@@ -205,4 +195,7 @@ TEST_F(valueRow, highlightsWhatHeadersSelect)
     EXPECT_EQ(hilitedInMaya(), "knee");
     clickHeader(Qt::Vertical, 3);
     EXPECT_EQ(selectedInMaya(), "body.vtx[2]");
+    click("Highlight");
+    clickCell(2, 0);
+    EXPECT_EQ(selectedInMaya(), "body.vtx[2]") << "switched off";
 }

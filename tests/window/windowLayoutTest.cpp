@@ -164,25 +164,6 @@ TEST_F(windowLayout, hasAMenuOfOptions)
     EXPECT_EQ(columnNames(), "hip");
 }
 
-TEST_F(windowLayout, loadsFiltersAndHighlightsByItsButtons)
-{
-    makeSkin("body", {"hip", "knee"}, {{1, 0}, {1, 0}, {1, 0}, {1, 0}});
-    mel("select -r body");
-    click("LoadComponent");
-    EXPECT_EQ(rowNames(), "bodyShape vtx[0] vtx[1] vtx[2] vtx[3]");
-    click("Filter");
-    EXPECT_EQ(hiddenColumns(), "knee");
-    click("Filter");
-    EXPECT_EQ(hiddenColumns(), "");
-    click("Highlight");
-    clickCell(2, 0);
-    EXPECT_EQ(selectedInMaya(), "body.vtx[1]");
-    mel("select -cl");
-    click("Highlight");
-    clickCell(3, 0);
-    EXPECT_EQ(selectedInMaya(), "");
-}
-
 TEST_F(windowLayout, locksAndUnlocksByItsButtons)
 {
     loadBody();
