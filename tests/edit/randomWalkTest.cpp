@@ -197,32 +197,25 @@ protected:
         return chosen.first;
     }
 
-    void expectWeights(const tableWeights &weights, const std::string &what) const
-    {
-        for (size_t v = 0; v < weights.size(); ++v) {
-            double sum = 0.0;
-            for (const double weight : weights[v]) {
-                sum += weight;
-                ASSERT_GE(weight, 0.0) << what << ", vertex " << v;
-                ASSERT_LE(weight, 1.0) << what << ", vertex " << v;
-            }
-            ASSERT_NEAR(sum, 1.0, kNoise) << what << ", vertex " << v;
-        }
-    }
-
-    // Of each row one cell may hold what rounding left over, up to a unit per joint.
-    void expectTable(const tableWeights &weights, const std::string &what) const
+    // Weights add up to one, and the table shows them: of each row one cell may hold what rounding
+    // left over, up to a unit per joint.
+    void expectSound(const tableWeights &weights) const
     {
         const double unit = 0.001;
         for (size_t v = 0; v < weights.size(); ++v) {
+            SCOPED_TRACE("vertex " + std::to_string(v));
+            double sum = 0.0;
             int off = 0;
             for (size_t i = 0; i < weights[v].size(); ++i) {
-                const double difference = std::abs(shownWeight(v, i) - weights[v][i]);
+                const double weight = weights[v][i];
+                const double difference = std::abs(shownWeight(v, i) - weight);
+                sum += weight;
                 off += difference > 0.52 * unit ? 1 : 0;
-                ASSERT_LE(difference, double(weights[v].size()) * unit)
-                    << what << ", vertex " << v << ", influence " << i;
+                ASSERT_TRUE(weight >= 0.0 && weight <= 1.0) << weight;
+                ASSERT_LE(difference, double(weights[v].size()) * unit) << "influence " << i;
             }
-            ASSERT_LE(off, 1) << what << ", vertex " << v;
+            ASSERT_NEAR(sum, 1.0, kNoise);
+            ASSERT_LE(off, 1);
         }
     }
 
@@ -248,8 +241,7 @@ protected:
     // A drag holds each locked cell; floods and paint smoothing pass over vertices that are locked
     // as a whole.
     void expectLocked(const std::string &step, const std::vector<std::vector<bool>> &locked,
-                      const tableWeights &before, const tableWeights &after,
-                      const std::string &what) const
+                      const tableWeights &before, const tableWeights &after) const
     {
         const bool isDrag = step == "drag" || step == "drag column";
         const bool passesRowsOver = step == "flood" || step == "paint smooth";
@@ -260,7 +252,7 @@ protected:
                 if (!(isDrag && locked[v][i]) && !(passesRowsOver && isWholeRow))
                     continue;
                 ASSERT_NEAR(after[v][i], before[v][i], kNoise)
-                    << what << ", vertex " << v << ", influence " << i;
+                    << "vertex " << v << ", influence " << i;
             }
         }
     }
@@ -276,6 +268,7 @@ TEST_F(randomWalk, keepsWeightsTableAndUndoSound)
     const int kSteps = 60;
     std::map<std::string, int> changes; // how often each kind of step changed weights
     for (int w = 0; w < kWalks; ++w) {
+        SCOPED_TRACE("seed " + std::to_string(kSeed + unsigned(w)));
         makeScene(kSeed + unsigned(w));
         const tableWeights start = weightsInScene();
         firstItem_ = undoCount();
@@ -283,13 +276,11 @@ TEST_F(randomWalk, keepsWeightsTableAndUndoSound)
             const tableWeights before = weightsInScene();
             const std::vector<std::vector<bool>> locked = lockedCells();
             const std::string name = step();
-            const std::string what = "seed " + std::to_string(kSeed + unsigned(w)) + ", step " +
-                                     std::to_string(s) + ", " + name;
+            SCOPED_TRACE("step " + std::to_string(s) + ", " + name);
             const tableWeights after = weightsInScene();
             changes[name] += after == before ? 0 : 1;
-            expectWeights(after, what);
-            expectTable(after, what);
-            expectLocked(name, locked, before, after, what);
+            expectSound(after);
+            expectLocked(name, locked, before, after);
             if (HasFatalFailure())
                 return;
         }
@@ -298,10 +289,9 @@ TEST_F(randomWalk, keepsWeightsTableAndUndoSound)
         const tableWeights end = weightsInScene();
         for (size_t v = 0; v < start.size(); ++v) {
             for (size_t i = 0; i < start[v].size(); ++i)
-                ASSERT_NEAR(end[v][i], start[v][i], kNoise)
-                    << "seed " << kSeed + unsigned(w) << ", vertex " << v;
+                ASSERT_NEAR(end[v][i], start[v][i], kNoise) << "vertex " << v << ", all undone";
         }
-        expectTable(end, "at the start again");
+        expectSound(end);
         takeErrors();
         takeInfos();
     }

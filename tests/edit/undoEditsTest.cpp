@@ -15,11 +15,8 @@ protected:
     {
         const std::string held = weights(0);
         std::string rounded;
-        for (const double weight : exactWeights(0)) {
-            char digits[16];
-            std::snprintf(digits, sizeof digits, "%s%.3f", rounded.empty() ? "" : " ", weight);
-            rounded += digits;
-        }
+        for (const double weight : exactWeights(0))
+            rounded += (rounded.empty() ? "" : " ") + QString::number(weight, 'f', 3).toStdString();
         return rounded == shown(1) ? held : held + " shown as " + shown(1);
     }
 };
