@@ -45,6 +45,10 @@ TEST_F(floodReplace, fillsTheUpperShapeAlone)
     flood(0.5);
     EXPECT_EQ(allWeights("hat"), "0.5 0.5; 0.5 0.5; 0.5 0.5; 0.5 0.5");
     EXPECT_EQ(shown(7), " 0.500 0.500");
+    load("body.vtx[0:2]");
+    selectColumn(1);
+    flood(0.25);
+    EXPECT_EQ(allWeights(), "0.75 0.25; 0.75 0.25; 0.75 0.25; 0 1") << "the last is not loaded";
     EXPECT_EQ(takeErrors() + takeInfos(), "");
 }
 
