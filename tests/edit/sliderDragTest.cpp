@@ -129,7 +129,12 @@ TEST_F(sliderDrag, refusesAColumnBesideLocks)
     EXPECT_EQ(weights(0) + weights(1), "0.5 0.3 0.20.25 0.25 0.5");
     selectColumn(1);
     drag(0.1);
-    EXPECT_EQ(weights(0), "0.5 0.4 0.1") << "the locked joint is held";
+    EXPECT_EQ(allWeights(), "0.5 0.4 0.1; 0.25 0.35 0.4; 0.334 0.433 0.233; 1 0 0")
+        << "the locked joint is held";
+    drag(0.9, true);
+    EXPECT_EQ(allWeights(), "0.5 0.5 0; 0.25 0.75 0; 0.334 0.666 0; 1 0 0");
+    mel("undo; undo");
+    EXPECT_EQ(allWeights(), "0.5 0.3 0.2; 0.25 0.25 0.5; 0.334 0.333 0.333; 1 0 0");
 }
 
 TEST_F(sliderDrag, needsACellWithAWeight)

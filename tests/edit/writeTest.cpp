@@ -105,30 +105,6 @@ TEST_F(writeEdit, roundsWithoutNormalizing)
     }
 }
 
-TEST_F(writeEdit, dragsAColumnPastLockedJoints)
-{
-    makeSkin("body", {"a", "b", "c"}, {{.5, .3, .2}, {.1, .9, 0}, {0, .5, .5}, {.9, 0, .1}});
-    mel("setAttr bodySkin.ihi 1; addAttr -dt stringArray -ln lockedJointNames bodySkin;"
-        "setAttr bodySkin.lockedJointNames -type stringArray 1 \"|c\"");
-    load("body");
-    model_.checkLockAttr();
-    mel("setAttr c.liw 1");
-    handOver_.operationColumn = 0;
-    handOver_.columnDrag.delta = 0.2;
-    ASSERT_EQ(prepare(prepareColumn), preparation::ready);
-    EXPECT_TRUE(writeColumn(edit_));
-    EXPECT_EQ(allWeights(), "0.7 0.1 0.2; 0.3 0.7 0; 0.2 0.3 0.5; 0.9 0 0.1");
-    EXPECT_EQ(melString("getAttr c.liw"), "0") << "as after every write";
-    EXPECT_TRUE(replayDisplaced(edit_));
-    EXPECT_EQ(allWeights(), "0.5 0.3 0.2; 0.1 0.9 0; 0 0.5 0.5; 0.9 0 0.1");
-
-    handOver_.columnDrag.isAbsolute = true;
-    handOver_.columnDrag.value = 0.4;
-    ASSERT_EQ(prepare(prepareColumn), preparation::ready);
-    EXPECT_TRUE(writeColumn(edit_));
-    EXPECT_EQ(allWeights().substr(0, 30), "0.4 0.4 0.2; 0.4 0.6 0; 0.4 0.");
-}
-
 TEST_F(writeEdit, writesNothingIntoASceneThatHasChanged)
 {
     makeSkin("body", {"a", "b"}, {{.5, .5}, {1, 0}, {.2, .8}, {0, 1}});

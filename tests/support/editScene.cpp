@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/editScene.h"
 
+#include <cmath>
+
 void EditScene::loadBody()
 {
     makeSkin("body", {"hip", "knee", "ankle"},
@@ -51,6 +53,24 @@ std::string EditScene::shownColumn(int column) const
     for (int row = 1; row < model_->rowCount(); ++row)
         text += (row > 1 ? " " : "") + cellText(row, column);
     return text;
+}
+
+std::string EditScene::disagreement() const
+{
+    std::string cells;
+    for (int row = 1; row < model_->rowCount(); ++row) {
+        const std::string name =
+            model_->headerData(row, Qt::Vertical).toString().toStdString(); // "vtx[0]"
+        const std::vector<double> held = melNumbers("skinPercent -q -v bodySkin body." + name);
+        for (int column = 0; column < model_->columnCount(); ++column) {
+            const QString text = model_->index(row, column).data().toString();
+            const int digits = int(text.size()) - 2; // behind "0."
+            // What rounding has left over is given to some cell.
+            if (std::fabs(text.toDouble() - held[size_t(column)]) > 1.5 * std::pow(10, -digits))
+                cells += std::to_string(row) + " " + std::to_string(column) + "\n";
+        }
+    }
+    return cells;
 }
 
 std::string EditScene::undoItems()

@@ -22,6 +22,9 @@ protected:
     // The cells of a row, or the vertices' of a column: "0.500 0.300 0.200".
     std::string shown(int row) const;
     std::string shownColumn(int column) const;
+    // Cells of "body", loaded alone, that do not show what the skin cluster holds: "3 1", a line
+    // each.
+    std::string disagreement() const;
 
     static std::string undoItems();
 };

@@ -2,7 +2,6 @@
 //
 // Ctrl+Z and Ctrl+Y in the window.
 
-#include <cmath>
 #include <functional>
 #include <sstream>
 
@@ -58,8 +57,6 @@ protected:
     // then differ in the last place: weightsOnly leaves the texts of the cells out.
     enum detail { everything, weightsOnly };
     std::string state(detail shown = everything) const;
-    // Cells that do not show what the skin cluster holds: "3 1", a line each.
-    std::string disagreement() const;
 };
 
 std::vector<keyboardUndo::useOfControl> keyboardUndo::controlsThatWriteWeights()
@@ -157,24 +154,6 @@ std::string keyboardUndo::state(detail shown) const
     for (const QAbstractButton *button : window_->findChildren<QAbstractButton *>())
         text << (button->isChecked() ? button->text().toStdString() : std::string());
     return text.str();
-}
-
-std::string keyboardUndo::disagreement() const
-{
-    std::string cells;
-    for (int row = 1; row < model_->rowCount(); ++row) {
-        const std::string name =
-            model_->headerData(row, Qt::Vertical).toString().toStdString(); // "vtx[0]"
-        const std::vector<double> held = melNumbers("skinPercent -q -v bodySkin body." + name);
-        for (int column = 0; column < model_->columnCount(); ++column) {
-            const QString text = model_->index(row, column).data().toString();
-            const int digits = int(text.size()) - 2; // behind "0."
-            // What rounding has left over is given to some cell.
-            if (std::fabs(text.toDouble() - held[size_t(column)]) > 1.5 * std::pow(10, -digits))
-                cells += std::to_string(row) + " " + std::to_string(column) + "\n";
-        }
-    }
-    return cells;
 }
 
 TEST_F(keyboardUndo, takesBackAndRestoresWhatEachControlDid)
