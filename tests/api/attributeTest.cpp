@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-// Dynamic attributes: made, added, filled, saved.
-#include <maya/MFileIO.h>
+// Dynamic attributes: made, added, filled.
 #include <maya/MFnCompoundAttribute.h>
 #include <maya/MFnNumericAttribute.h>
 #include <maya/MFnStringArrayData.h>
 #include <maya/MFnStringData.h>
 #include <maya/MFnTypedAttribute.h>
-#include <maya/MIntArray.h>
 #include <maya/MPlug.h>
 #include <maya/MStringArray.h>
 
@@ -116,33 +114,4 @@ TEST_F(dynamicAttribute, nestsArraysAndKeepsTheirHoles)
     EXPECT_TRUE(byIndex.selectAncestorLogicalIndex(2));
     EXPECT_TRUE(byIndex == cell);
     EXPECT_TRUE(byIndex.asString() == "hip");
-}
-
-TEST_F(dynamicAttribute, comesBackFromAFile)
-{
-    addCells();
-    addStringArray("names");
-    MStringArray strings;
-    strings.append("hip");
-    MFnStringArrayData maker;
-    MObject made = maker.create(strings);
-    skin_.findPlug("names", false).setMObject(made);
-    skin_.findPlug("cells", false)
-        .elementByLogicalIndex(5)
-        .child(0)
-        .elementByLogicalIndex(2)
-        .setString("a\"b");
-    const std::string file = testing::TempDir() + "dynamicAttribute.ma";
-    ASSERT_TRUE(MFileIO::saveAs(file.c_str()));
-    ASSERT_TRUE(MFileIO::open(file.c_str(), nullptr, true));
-    const MFnDependencyNode opened(node("skinCluster1"));
-    const MObject data = opened.findPlug("names", false).asMObject();
-    ASSERT_EQ(MFnStringArrayData(data).length(), 1u);
-    const MPlug cells = opened.findPlug("cells", false);
-    MIntArray rows;
-    MPlug(cells).getExistingArrayAttributeIndices(rows);
-    ASSERT_EQ(rows.length(), 1u);
-    EXPECT_EQ(rows[0], 5);
-    EXPECT_TRUE(cells[0].child(0)[0].asString() == "a\"b");
-    EXPECT_EQ(cells[0].child(0)[0].logicalIndex(), 2u);
 }

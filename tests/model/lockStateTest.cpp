@@ -36,38 +36,3 @@ TEST(lockState, keepsOrderAndRepetitions)
     locks.lockJoint(3);
     EXPECT_EQ(locks.joints(), (QList<int>{1, 3}));
 }
-
-TEST(lockState, takesAJointThatIsNotLoadedForNoLock)
-{
-    lockState locks;
-    locks.lockJoint(-1);
-    EXPECT_TRUE(locks.isEmpty());
-    EXPECT_TRUE(locks.joints().isEmpty());
-    EXPECT_FALSE(locks.isLocked(0, 0));
-}
-
-TEST(lockState, unlocksACellHoweverOftenItWasLocked)
-{
-    lockState locks;
-    locks.lockCell(4, 1);
-    locks.lockCell(2, 0);
-    locks.lockCell(4, 1);
-    locks.unlockCell(4, 1);
-    EXPECT_FALSE(locks.isCellLocked(4, 1));
-    EXPECT_TRUE(locks.isCellLocked(2, 0));
-    EXPECT_EQ(locks.cells().size(), 1);
-}
-
-TEST(lockState, forgetsEverythingWhenCleared)
-{
-    lockState locks;
-    locks.lockJoint(0);
-    locks.lockRow(1);
-    locks.lockRow(1);
-    locks.lockCell(2, 0);
-    locks.unlockRow(1);
-    EXPECT_FALSE(locks.isRowLocked(1));
-    locks.clear();
-    EXPECT_TRUE(locks.isEmpty());
-    EXPECT_FALSE(locks.isLocked(2, 0));
-}

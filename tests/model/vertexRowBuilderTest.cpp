@@ -26,8 +26,3 @@ TEST(vertexRowBuilder, leavesNothingOfTheRowBefore)
     EXPECT_FALSE(std::signbit(row.at(2))) << "-0.0 would be shown with its sign";
     EXPECT_EQ(sum, 0.0);
 }
-
-TEST(vertexRowBuilder, fillsShapeRowsWithTheirMarker)
-{
-    EXPECT_EQ(shapeRow(2), (weightRow{-1.0, -1.0, -1.0}));
-}

@@ -63,35 +63,6 @@ TEST_F(selection, findsWhatNamesAndPatternsMean)
     }
 }
 
-TEST_F(selection, mergesComponentsOfAnObjectIntoAscendingRanges)
-{
-    for (const char *pick : {"body.vtx[7]", "hip", "body.vtx[3:4]", "body.vtx[0]", "body.vtx[5]"})
-        this->pick(pick);
-    EXPECT_EQ(selected(), "body.vtx[0] body.vtx[3:5] body.vtx[7] hip");
-    pick("body.vtx[4]", Session::Adjustment::remove);
-    pick("body.f[1]");
-    pick("body");
-    EXPECT_EQ(selected(), "body.vtx[0] body.vtx[3] body.vtx[5] body.vtx[7] hip body.f[1] body");
-    pick("body.vtx[5:6]", Session::Adjustment::toggle);
-    pick("hip", Session::Adjustment::toggle);
-    EXPECT_EQ(selected(), "body.vtx[0] body.vtx[3] body.vtx[6:7] body.f[1] body");
-    pick("knee", Session::Adjustment::addToHead);
-    EXPECT_EQ(selected().substr(0, 5), "knee ");
-    pick("foot", Session::Adjustment::replace);
-    EXPECT_EQ(selected(), "foot");
-}
-
-TEST_F(selection, keepsPicksApartOnlyWhereTheirOrderIsTracked)
-{
-    session_.setSelectionOrderTracked(true);
-    for (const char *pick : {"body.vtx[6]", "body.vtx[2:3]", "body.vtx[3:5]", "body.vtx[0]"})
-        this->pick(pick);
-    EXPECT_EQ(namesOf(session_.orderedSelection()),
-              "body.vtx[6] body.vtx[2:3] body.vtx[4:5] body.vtx[0]");
-    session_.setSelectionOrderTracked(false);
-    EXPECT_EQ(namesOf(session_.orderedSelection()), "body.vtx[0] body.vtx[2:6]");
-}
-
 TEST_F(selection, forgetsWhatIsDeletedAndTellsOnce)
 {
     int events = 0;

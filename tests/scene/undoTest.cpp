@@ -22,11 +22,6 @@ struct SceneChange {
     std::function<void(Scene &)> make;
 };
 
-SelectionItem itemNamed(Scene &scene, const char *name)
-{
-    return requireName(scene, name).front();
-}
-
 const SceneChange kChanges[] = {
     {"create a transform", [](Scene &s) { s.createNode("transform", "", s.node("left")); }},
     {"create a shape without parent", [](Scene &s) { s.createNode("mesh", "loose"); }},
@@ -153,24 +148,6 @@ TEST(sceneUndo, walksBackThroughManyChangesAndForthAgain)
         session.redoOnce();
         ASSERT_EQ(sessionText(session), texts[i + 1]) << made[i] << ", " << i << ", seed " << seed;
     }
-}
-
-TEST(sceneUndo, coversSelectionAndHiliteList)
-{
-    Session session;
-    buildSampleScene(session);
-    Scene &scene = session.scene();
-    const std::string before = sessionText(session);
-    session.undo().openChunk("select");
-    session.adjustSelection({itemNamed(scene, "body.vtx[2:3]"), itemNamed(scene, "hip")},
-                            Session::Adjustment::replace);
-    session.undo().closeChunk();
-    EXPECT_EQ(session.selection().size(), 2u);
-    EXPECT_EQ(session.hilited().size(), 1u);
-    session.undoOnce();
-    EXPECT_TRUE(session.selection().isEmpty());
-    session.redoOnce();
-    EXPECT_EQ(session.selection().size(), 2u);
 }
 
 TEST(undoQueue, keepsNestedChunksAsOneItemAndForgetsTheOldest)
