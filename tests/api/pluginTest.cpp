@@ -67,9 +67,9 @@ TEST_F(pluginCommand, keepsTheSecondOfTwoEqualShortFlagsByItsLongName)
 
 TEST_F(pluginCommand, refusesBadArgumentsWithOneLine)
 {
-    EXPECT_EQ(melError("number -bogus"), "line 1: Invalid flag '-bogus'");
+    EXPECT_EQ(melError("number -bogus"), "Invalid flag '-bogus'");
     EXPECT_EQ(melError("number -setTo abc"),
-              "line 1: Invalid arguments for flag 'setTo'.  Expected ( int ), got [ string ]");
+              "Invalid arguments for flag 'setTo'.  Expected ( int ), got [ string ]");
     EXPECT_NE(melError("number -setTo"), "");
     EXPECT_NE(melError("number stray"), "");
     EXPECT_EQ(melError("number -fail"), "") << "what a command does not say is not said";

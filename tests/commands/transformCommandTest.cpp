@@ -1,31 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 // Placing: what parent, xform, move and rotate make of a matrix must give that matrix again.
 
-#include "mel/melRecorder.h"
-
-#include <maya/MDoubleArray.h>
-
 #include <random>
 
-#include <gtest/gtest.h>
+#include "support/mayaSession.h"
 
 namespace
 {
-
-std::vector<double> numbers(const std::string &command)
-{
-    MDoubleArray result;
-    EXPECT_TRUE(MGlobal::executeCommand(command.c_str(), result)) << command;
-    std::vector<double> values;
-    for (unsigned i = 0; i < result.length(); ++i)
-        values.push_back(result[i]);
-    return values;
-}
-
-std::vector<double> worldMatrix(const char *node)
-{
-    return numbers(std::string("xform -q -ws -m ") + node);
-}
 
 void expectNear(const std::vector<double> &actual, const std::vector<double> &expected)
 {
@@ -44,30 +25,34 @@ std::string text(const std::vector<double> &values)
 
 // Random poses with a fixed seed: a parent that turns and scales evenly, a child with everything
 // that has a say in its matrix.
-class pose : public testing::TestWithParam<int>, public melRecorder
+class pose : public MayaSession, public testing::WithParamInterface<int>
 {
 protected:
     pose() : random_(unsigned(GetParam()) + 1)
     {
         const std::string order = std::to_string(GetParam() % 6);
         const std::string type = GetParam() < 6 ? "transform" : "joint";
-        run("createNode transform -n up; createNode " + type + " -n low; setAttr low.ro " + order);
+        mel("createNode transform -n up; createNode " + type + " -n low; setAttr low.ro " + order);
         place("up", {"t", "r"});
-        run("setAttr up.s 2 2 2");
+        mel("setAttr up.s 2 2 2");
         place("low", {"t", "r", "ra"});
         if (type == "joint")
             place("low", {"jo"});
         else
-            run("setAttr low.s 1 2 3; setAttr low.sh .1 .2 .3; xform -piv 1 2 3 low");
+            mel("setAttr low.s 1 2 3; setAttr low.sh .1 .2 .3; xform -piv 1 2 3 low");
     }
 
     void place(const std::string &node, const std::vector<const char *> &attributes)
     {
         std::uniform_real_distribution<double> angle(-170, 170);
         for (const char *attribute : attributes)
-            run("setAttr " + node + "." + attribute +
+            mel("setAttr " + node + "." + attribute +
                 text({angle(random_), angle(random_), angle(random_)}));
-        EXPECT_TRUE(status);
+    }
+
+    static std::vector<double> worldMatrix(const char *node)
+    {
+        return melNumbers(std::string("xform -q -ws -m ") + node);
     }
 
 private:
@@ -77,20 +62,18 @@ private:
 TEST_P(pose, staysWhereItIsBelowAnotherParent)
 {
     const std::vector<double> before = worldMatrix("low");
-    run("parent low up");
-    ASSERT_TRUE(status);
+    mel("parent low up");
     expectNear(worldMatrix("low"), before);
-    run("parent -w low");
+    mel("parent -w low");
     expectNear(worldMatrix("low"), before);
 }
 
 TEST_P(pose, isFoundForAMatrix)
 {
-    run("createNode transform -n model");
+    mel("createNode transform -n model");
     place("model", {"t", "r"});
     const std::vector<double> wanted = worldMatrix("model");
-    run("parent -r low up; xform -ws -m" + text(wanted) + " low");
-    ASSERT_TRUE(status);
+    mel("parent -r low up; xform -ws -m" + text(wanted) + " low");
     const std::vector<double> found = worldMatrix("low");
     for (std::size_t i = 0; i < wanted.size(); ++i)
         EXPECT_NEAR(found[i], wanted[i], 1e-4); // the command's text has six digits
@@ -98,15 +81,15 @@ TEST_P(pose, isFoundForAMatrix)
 
 TEST_P(pose, turnsAndMovesInTheWorld)
 {
-    run("parent -r low up; xform -ws -ro 10 20 30 low; move 1 2 3 low");
-    expectNear(numbers("xform -q -ws -ro low"), {10, 20, 30});
-    expectNear(numbers("xform -q -ws -t low"), {1, 2, 3});
-    run("move -r 1 1 1 low; move -x 7 low");
-    expectNear(numbers("xform -q -ws -t low"), {7, 3, 4});
+    mel("parent -r low up; xform -ws -ro 10 20 30 low; move 1 2 3 low");
+    expectNear(melNumbers("xform -q -ws -ro low"), {10, 20, 30});
+    expectNear(melNumbers("xform -q -ws -t low"), {1, 2, 3});
+    mel("move -r 1 1 1 low; move -x 7 low");
+    expectNear(melNumbers("xform -q -ws -t low"), {7, 3, 4});
     const std::vector<double> before = worldMatrix("low");
-    run("rotate -r -ws 0 90 0 low; rotate -r -ws 0 -90 0 low; rotate -r 5 6 7 low");
+    mel("rotate -r -ws 0 90 0 low; rotate -r -ws 0 -90 0 low; rotate -r 5 6 7 low");
     EXPECT_GT(std::abs(worldMatrix("low")[4] - before[4]), 1e-6);
-    run("xform -ws -ro 10 20 30 low");
+    mel("xform -ws -ro 10 20 30 low");
     expectNear(worldMatrix("low"), before);
 }
 

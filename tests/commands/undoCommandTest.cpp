@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Undo of every command that changes the scene: the scene must be written as it was before.
 
-#include "commands/savedScene.h"
-
-#include <ostream>
+#include "support/sceneFile.h"
 
 namespace
 {
@@ -21,102 +19,76 @@ constexpr const char *kRig =
     "addAttr -ln out -at double box; connectAttr box.out loose.tz;"
     "select -r box knee;";
 
-struct undoCase {
-    const char *name;
-    const char *command;
+using undo = SceneFileTest;
+
+constexpr const char *kCommands[] = {
+    "setAttr box.tx 7",
+    "setAttr box.s -type \"double3\" 2 3 4",
+    "setAttr box.note -type \"string\" \"new\"",
+    "setAttr \"box.w[3:5]\" 1 2 3",
+    "setAttr \"skin.wl[0:3].w[1]\" .1 .2 .3 .4",
+    "setAttr -l on -k off box.ry",
+    "addAttr -ln extra -at long -dv 3 -k true hip; setAttr hip.extra 5",
+    "addAttr -ln c -at compound -m -nc 2 box; addAttr -ln a -at double -p c box;"
+    "addAttr -ln b -dt \"string\" -p c box; setAttr box.c[3].a 2",
+    "deleteAttr box.w",
+    "deleteAttr box.out",
+    "removeMultiInstance box.w[2]",
+    "aliasAttr grin box.w[3]; aliasAttr -rm box.smile",
+    "connectAttr box.ry inner.rx",
+    "connectAttr -f box.ry inner.ty",
+    "disconnectAttr box.tx inner.ty",
+    "createNode joint -p box",
+    "createNode mesh",
+    "delete hip",
+    "delete skin",
+    "delete",
+    "delete -ch loose",
+    "rename body torso",
+    "lockNode -l on box",
+    "parent knee inner",
+    "parent -w knee",
+    "parent -s -r -add bodyShape box",
+    "group -n all hip box",
+    "move -r 1 0 0 box knee",
+    "rotate -r -ws 0 30 0 inner",
+    "scale 2 2 2 box",
+    "xform -ws -t 5 5 5 -ro 0 90 0 knee",
+    "xform -ws -piv 1 1 1 inner",
+    "undoInfo -openChunk; setAttr box.tx 1.5; setAttr box.ty 1.5;"
+    "undoInfo -closeChunk; rename box crate",
 };
 
-void PrintTo(const undoCase &row, std::ostream *out)
+TEST_F(undo, restoresTheSceneAndRedoRepeatsTheChange)
 {
-    *out << row.command;
+    for (const char *command : kCommands) {
+        SCOPED_TRACE(command);
+        mel("file -f -new");
+        mel(kRig);
+        const std::string before = savedText();
+        const std::string selected = melStrings("ls -sl");
+        mel(command);
+        const std::string after = savedText();
+        EXPECT_TRUE(after != before) << "the command changes something";
+
+        mel("undo");
+        EXPECT_EQ(savedText(), before);
+        EXPECT_EQ(melStrings("ls -sl"), selected);
+        mel("redo");
+        EXPECT_EQ(savedText(), after);
+        mel("undo");
+        EXPECT_EQ(savedText(), before);
+        EXPECT_EQ(takeWarnings(), "");
+    }
 }
 
-class undoOf : public testing::TestWithParam<undoCase>
+TEST_F(undo, ofAScriptThatUndoesMeansItsOwnChanges)
 {
-};
-
-TEST_P(undoOf, restoresTheSceneAndRedoRepeatsTheChange)
-{
-    melRecorder maya;
-    maya.run(kRig);
-    ASSERT_TRUE(maya.status);
-    const std::string before = savedScene();
-    const std::string selected = maya.run("print(`ls -sl`)");
-
-    EXPECT_EQ(maya.run(GetParam().command), "");
-    ASSERT_TRUE(maya.status);
-    const std::string after = savedScene();
-    EXPECT_TRUE(after != before) << "the command changes something";
-
-    maya.run("undo");
-    EXPECT_EQ(savedScene(), before);
-    EXPECT_EQ(maya.run("print(`ls -sl`)"), selected);
-    maya.run("redo");
-    EXPECT_EQ(savedScene(), after);
-    maya.run("undo");
-    EXPECT_EQ(savedScene(), before);
-}
-
-constexpr undoCase kCases[] = {
-    {"setAttrNumber", "setAttr box.tx 7"},
-    {"setAttrTuple", "setAttr box.s -type \"double3\" 2 3 4"},
-    {"setAttrString", "setAttr box.note -type \"string\" \"new\""},
-    {"setAttrRange", "setAttr \"box.w[3:5]\" 1 2 3"},
-    {"setAttrWeights", "setAttr \"skin.wl[0:3].w[1]\" .1 .2 .3 .4"},
-    {"setAttrLock", "setAttr -l on -k off box.ry"},
-    {"addAttr", "addAttr -ln extra -at long -dv 3 -k true hip; setAttr hip.extra 5"},
-    {"addAttrCompound",
-     "addAttr -ln c -at compound -m -nc 2 box; addAttr -ln a -at double -p c box;"
-     "addAttr -ln b -dt \"string\" -p c box; setAttr box.c[3].a 2"},
-    {"deleteAttr", "deleteAttr box.w"},
-    {"deleteConnectedAttr", "deleteAttr box.out"},
-    {"removeMultiInstance", "removeMultiInstance box.w[2]"},
-    {"aliasAttr", "aliasAttr grin box.w[3]; aliasAttr -rm box.smile"},
-    {"connectAttr", "connectAttr box.ry inner.rx"},
-    {"connectAttrForced", "connectAttr -f box.ry inner.ty"},
-    {"disconnectAttr", "disconnectAttr box.tx inner.ty"},
-    {"createNode", "createNode joint -p box"},
-    {"createShape", "createNode mesh"},
-    {"deleteHierarchy", "delete hip"},
-    {"deleteSkinCluster", "delete skin"},
-    {"deleteSelected", "delete"},
-    {"deleteHistory", "delete -ch loose"},
-    {"rename", "rename body torso"},
-    {"lockNode", "lockNode -l on box"},
-    {"parent", "parent knee inner"},
-    {"parentToWorld", "parent -w knee"},
-    {"instance", "parent -s -r -add bodyShape box"},
-    {"group", "group -n all hip box"},
-    {"move", "move -r 1 0 0 box knee"},
-    {"rotate", "rotate -r -ws 0 30 0 inner"},
-    {"scale", "scale 2 2 2 box"},
-    {"xform", "xform -ws -t 5 5 5 -ro 0 90 0 knee"},
-    {"xformPivot", "xform -ws -piv 1 1 1 inner"},
-    {"nestedChunk", "undoInfo -openChunk; setAttr box.tx 1.5; setAttr box.ty 1.5;"
-                    "undoInfo -closeChunk; rename box crate"},
-};
-
-INSTANTIATE_TEST_SUITE_P(commands, undoOf, testing::ValuesIn(kCases),
-                         [](const auto &row) { return row.param.name; });
-
-TEST(undo, aScriptThatUndoesMeansItsOwnChanges)
-{
-    melRecorder maya;
-    maya.run("createNode transform -n a");
-    maya.run("setAttr a.tx 4; undo; setAttr a.ty 3");
-    EXPECT_EQ(maya.run("print(`getAttr a.t`)"), "0\n3\n0");
-    maya.run("undo");
-    EXPECT_EQ(maya.run("print(`getAttr a.t`)"), "0\n0\n0");
-}
-
-TEST(undo, nothingOfAnOldSceneIsLeftAfterANewOne)
-{
-    melRecorder maya;
-    maya.run("createNode transform -n a; setAttr a.tx 1; file -f -new; createNode transform -n b");
-    ASSERT_TRUE(maya.status);
-    maya.run("undo");
-    EXPECT_EQ(maya.run("print(`objExists b`)"), "0");
-    EXPECT_EQ(maya.run("undo"), "Warning: There are no more commands to undo.");
+    mel("createNode transform -n a");
+    mel("setAttr a.tx 4; undo; setAttr a.ty 3");
+    EXPECT_EQ(melNumbers("getAttr a.t"), (std::vector<double>{0, 3, 0}));
+    mel("undo");
+    EXPECT_EQ(melNumbers("getAttr a.t"), (std::vector<double>{0, 0, 0}));
 }
 
 } // namespace

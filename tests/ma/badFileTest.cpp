@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Files that are cut off, malformed or hostile: an error that names file and line, and the scene as
 // it was. What only a part of the file suffers from is a warning.
-#include "ma/sceneFile.h"
+#include "support/sceneFile.h"
 
 namespace
 {
@@ -64,6 +64,12 @@ TEST_F(BadFile, isRefusedAtTheLineWhereItGoesWrong)
         {"cutInString.ma", skin + "\tsetAttr \".an\" -type \"str", "line 5: The file is cut off"},
         {"cutInValues.ma", skin + "\n\tsetAttr \".wl[0].w\"\n\t\t1 0",
          "line 6: The file is cut off"},
+        {"negativeIndex.ma", skin + "\tsetAttr \".wl[0].w\" 1 -3 1;\n", "line 5: "},
+        {"shortRange.ma", "createNode mesh -n \"m\";\n\tsetAttr \".vt[0:2]\" 0 0 0 1 1 1;\n",
+         "line 5: "},
+        {"noNumber.ma", skin + "\tsetAttr \".nw\" abc;\n", "line 5: "},
+        {"twoNumbers.ma", skin + "\tsetAttr \".nw\" 1 2;\n", "line 5: "},
+        {"shortStrings.ma", skin + "\tsetAttr \".x\" -type \"stringArray\" 7 \"x\";\n", "line 5: "},
         {"missingValues.ma", skin + "\tsetAttr \".wl[0].w\" 2 0 1;\n", "line 5: "},
         {"sameNode.ma", skin + skin, "line 5: The name \"skin\" is taken"},
         {"samePath.ma",
@@ -78,6 +84,8 @@ TEST_F(BadFile, isRefusedAtTheLineWhereItGoesWrong)
         {"billionSize.ma", skin + "\tsetAttr -s 1000000000 \".wl\";\n", "line 5: "},
         {"billionRange.ma", skin + "\tsetAttr \".bw[0:1000000000]\" 1;\n", "line 5: "},
         {"billionIndex.ma", skin + "\tsetAttr \".wl[1000000000].w[0]\" 1;\n", "line 5: "},
+        {"millionsOfVertices.ma", "createNode mesh -n \"m\";\n\tsetAttr \".vt[90000000]\" 0 0 0;\n",
+         "line 5: "},
         {"billionCount.ma", skin + "\tsetAttr \".ptw\" -type \"doubleArray\" 1000000000 1;\n",
          "line 5: "},
         {"deepParentheses.ma", skin + "\tsetAttr \".en\" " + times(100000, "(") + ";\n",
@@ -148,6 +156,8 @@ TEST_F(BadFile, opensWithoutWhatIsMissing)
     EXPECT_EQ(warnings.find("lost20"), std::string::npos) << warnings;
     EXPECT_NE(warnings.find("5 more warnings about connectAttr"), std::string::npos) << warnings;
     EXPECT_EQ(melStrings("ls -type joint"), "hip knee");
+    EXPECT_NE(savedText().find("file -r -ns \"rig\" -dr 1 -rfn \"rigRN\" \"rigs/arm.ma\";\n"),
+              std::string::npos);
 }
 
 TEST_F(BadFile, mayHaveASkinOfNoVertices)

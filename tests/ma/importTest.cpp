@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Importing: new names where the old ones are taken, with everything that refers to them; undone as
 // one.
-#include "ma/sceneFile.h"
+#include "support/sceneFile.h"
 
 namespace
 {
@@ -43,6 +43,8 @@ TEST_F(Import, putsNamesIntoANamespace)
     EXPECT_EQ(melStrings("ls -long -type joint \"left:*\""),
               "|left:rig|left:hip |left:rig|left:hip|left:knee");
     EXPECT_EQ(melStrings("listConnections -s true -d false \"left:skin.ma\""), "left:knee");
+    EXPECT_EQ(melStrings("file -import -ns \"right\" -rnn \"" + file_ + "\""),
+              "right:rig right:hip right:knee right:skin");
 }
 
 TEST_F(Import, ofABrokenFileChangesNothing)

@@ -5,8 +5,8 @@
 #include <cstdlib>
 #include <regex>
 
-#include "ma/sceneFile.h"
 #include "support/maText.h"
+#include "support/sceneFile.h"
 
 namespace
 {

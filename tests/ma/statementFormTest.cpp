@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The forms in which Maya's releases write the same thing: all are read, and written as the file's
 // release does it.
-#include "ma/sceneFile.h"
+#include "support/sceneFile.h"
 
 namespace
 {
@@ -56,6 +56,8 @@ const Block kBlocks[] = {
              "\tsetAttr \".pt[1]\" -type \"float3\" 0 -1.5 0;\n"
              "\tsetAttr -s 3 \".uvst[0].uvsp[0:2]\" 0 0 1 0 1 1;\n"
              "\tsetAttr \".hfd\" -type \"dataPolyComponent\" Index_Data Face 0;\n"},
+    {"components", "createNode groupParts -n \"g\";\n"
+                   "\tsetAttr \".ic\" -type \"componentList\" 2 \"vtx[0:35]\" \"vtx[40]\";\n"},
     {"instances", "createNode transform -n \"a\";\n"
                   "createNode mesh -n \"aShape\" -p \"a\";\n"
                   "createNode transform -n \"b\";\n"
@@ -69,6 +71,12 @@ const Block kBlocks[] = {
                     "createNode transform -n \"b\";\n"
                     "createNode joint -n \"hip\" -p \"b\";\n"
                     "connectAttr \"b|hip.s\" \"knee.is\" -l on;\n"},
+    {"statements without meaning here",
+     "requires -nodeType \"strange\" \"plug\" \"1.0\";\n"
+     "currentUnit -l meter -a degree -t ntsc;\n"
+     "fileInfo \"key\" \"a \\\"value\\\"\";\n"
+     "dataStructure -fmt \"raw\" -as \"name=x\";\n"
+     "relationship \"link\" \":lightLinker1\" \":initialShadingGroup.message\";\n"},
     {"packed weights", "createNode skinCluster -n \"a\";\n"
                        "\tsetAttr -s 4 \".wl\";\n"
                        "\tsetAttr \".wl[0:1].w\"\n"
@@ -98,6 +106,58 @@ TEST_F(StatementForm, isWrittenBackAsItWas)
             EXPECT_NE(at, std::string::npos) << statement << "is missing in\n" << saved;
             begin = end;
         }
+    }
+}
+
+// Forms that are written back in another one.
+TEST_F(StatementForm, givesTheValueThatItMeans)
+{
+    const struct {
+        const char *statements, *question;
+        std::vector<double> answer;
+    } cases[] = {
+        {"createNode skinCluster -n s;\n setAttr \".wl[0].w[2]\" 1;\n setAttr -k on "
+         "\".wl[0].w\";\n",
+         "getAttr s.wl[0].w[2]",
+         {1}},
+        {"createNode skinCluster -n s;\n setAttr -size 2 \".weightList\";\n"
+         " setAttr \".weightList[1].weights[2]\" 1e-007;\n",
+         "getAttr s.wl[1].w[2]",
+         {1e-7}},
+        // Weights of a deformer that the host does not know.
+        {"createNode softMod -n s;\n setAttr \".wl[0:2].w\"\n 1 0 0.5\n 2 0 1 3 0.25\n 1 1 1;\n",
+         "getAttr s.wl[1].w[3]",
+         {0.25}},
+        {"createNode mesh -n m;\n setAttr \".pt[3:4]\" -type \"float3\" 0 0 1 0 0 2;\n"
+         " setAttr \".pt[6]\" 0 0 3;\n",
+         "getAttr m.pt",
+         {0, 0, 1, 0, 0, 2, 0, 0, 3}},
+        {"createNode transform -n t;\n setAttr -l on \".tx\";\n setAttr \".tx\" 4;\n",
+         "getAttr t.tx",
+         {4}},
+        {"createNode transform -n t;\n setAttr -av \".tx\";\n setAttr \".t\";\n"
+         " setAttr -k off \".v\" no;\n",
+         "getAttr t.v",
+         {0}},
+        {"createNode skinCluster -n s;\n setAttr \".pm[3]\" -type \"matrix\" 1 0 0 0 0 1 0 0 0 0 1 "
+         "0"
+         " 1 2 3 1;\n",
+         "getAttr s.pm[3]",
+         {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 1, 2, 3, 1}},
+        {"createNode transform -n t;\n addAttr -ci true -sn \"c\" -ln \"c\" -at \"float3\" -nc 3;\n"
+         " addAttr -ci true -sn \"cr\" -ln \"cr\" -at \"float\" -p \"c\";\n"
+         " addAttr -ci true -sn \"cg\" -ln \"cg\" -at \"float\" -p \"c\";\n"
+         " addAttr -ci true -sn \"cb\" -ln \"cb\" -at \"float\" -p \"c\";\n"
+         " setAttr \".c\" -type \"float3\" 1 0.5 0.25;\n",
+         "getAttr t.c",
+         {1, 0.5, 0.25}},
+    };
+    for (const auto &c : cases) {
+        ASSERT_TRUE(open(write("form.ma", c.statements, "2017"))) << takeErrors();
+        EXPECT_EQ(melNumbers(c.question), c.answer);
+        savedText();
+        ASSERT_TRUE(open(path("saved.ma"))) << takeErrors();
+        EXPECT_EQ(melNumbers(c.question), c.answer) << "saved again";
     }
 }
 

@@ -1,22 +1,20 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <maya/MFileIO.h>
+#include <maya/MGlobal.h>
+#include <maya/MStringArray.h>
 
-#include <fstream>
-#include <sstream>
-
-#include "skinning/skinningScene.h"
+#include "support/sceneFile.h"
 
 namespace
 {
 
-class bindNetwork : public skinningScene
+class bindNetwork : public SceneFileTest
 {
 protected:
     void makeBodyAndJoints(const std::string &history)
     {
-        make("polyCube -h 2 -sy 2 -n body" + history +
-             "; select -cl; group -em -n rig;"
-             "joint -p 0 -1 0 -n hip; joint -p 0 1 0 -n knee; select -cl");
+        mel("polyCube -h 2 -sy 2 -n body" + history +
+            "; select -cl; group -em -n rig;"
+            "joint -p 0 -1 0 -n hip; joint -p 0 1 0 -n knee; select -cl");
     }
 
     // What goes into a node: "source -> plug" by line, shapes' shading left out.
@@ -29,16 +27,6 @@ protected:
             text += std::string(plugs[i + 1].asChar()) + " -> " + plugs[i].asChar() + "\n";
         return text;
     }
-
-    // The scene as Maya ASCII.
-    static std::string saved()
-    {
-        const std::string path = testing::TempDir() + "korvexSkinning.ma";
-        EXPECT_TRUE(MFileIO::exportAll(path.c_str(), "mayaAscii"));
-        std::ostringstream text;
-        text << std::ifstream(path).rdbuf();
-        return text.str();
-    }
 };
 
 } // namespace
@@ -46,7 +34,7 @@ protected:
 TEST_F(bindNetwork, isWhatMayaBuilds)
 {
     makeBodyAndJoints("");
-    EXPECT_EQ(names("skinCluster -tsb hip knee body"), "skinCluster1");
+    EXPECT_EQ(melStrings("skinCluster -tsb hip knee body"), "skinCluster1");
     const struct {
         const char *node, *inputs;
     } cases[] = {
@@ -97,10 +85,10 @@ TEST_F(bindNetwork, isWhatMayaBuilds)
     };
     for (const auto &c : cases)
         EXPECT_EQ(inputs(c.node), c.inputs);
-    EXPECT_EQ(number("getAttr bodyShapeOrig.intermediateObject"), 1);
-    EXPECT_EQ(names("ls -type mesh -ni"), "bodyShape");
-    EXPECT_EQ(numbers("getAttr skinCluster1.bindPreMatrix[1]")[13], -1.0);
-    EXPECT_NE(saved().find("setAttr \".xm[2]\" -type \"matrix\" \"xform\" 1 1 1 0 0 0 0 0 2 0"),
+    EXPECT_EQ(melString("getAttr bodyShapeOrig.intermediateObject"), "1");
+    EXPECT_EQ(melStrings("ls -type mesh -ni"), "bodyShape");
+    EXPECT_EQ(melNumbers("getAttr skinCluster1.bindPreMatrix[1]")[13], -1.0);
+    EXPECT_NE(savedText().find("setAttr \".xm[2]\" -type \"matrix\" \"xform\" 1 1 1 0 0 0 0 0 2 0"),
               std::string::npos);
 }
 
@@ -108,57 +96,57 @@ TEST_F(bindNetwork, comesAndGoesWithUndoAndUnbind)
 {
     for (const char *history : {"", " -ch 0"}) {
         SCOPED_TRACE(history);
-        make("file -f -new");
+        mel("file -f -new");
         makeBodyAndJoints(history);
-        const std::string before = saved();
-        make("skinCluster -tsb -mi 2 hip knee body; skinPercent -tv hip 0.25 skinCluster1 "
-             "body.vtx[0]");
-        const std::string bound = saved();
-        make("undo");
-        EXPECT_EQ(saved(), before);
-        make("redo");
-        EXPECT_EQ(saved(), bound);
+        const std::string before = savedText();
+        mel("skinCluster -tsb -mi 2 hip knee body; skinPercent -tv hip 0.25 skinCluster1 "
+            "body.vtx[0]");
+        const std::string bound = savedText();
+        mel("undo");
+        EXPECT_EQ(savedText(), before);
+        mel("redo");
+        EXPECT_EQ(savedText(), bound);
 
-        make("skinCluster -e -ub body");
-        EXPECT_EQ(names("ls -type geometryFilter -type dagPose -type groupId -type groupParts "
-                        "-type mesh"),
+        mel("skinCluster -e -ub body");
+        EXPECT_EQ(melStrings("ls -type geometryFilter -type dagPose -type groupId -type groupParts "
+                             "-type mesh"),
                   "bodyShape");
         EXPECT_EQ(inputs("bodyShape"), *history ? "" : "polyCube1.output -> bodyShape.inMesh\n");
-        make("undo");
-        EXPECT_EQ(saved(), bound);
+        mel("undo");
+        EXPECT_EQ(savedText(), bound);
     }
 }
 
 TEST_F(bindNetwork, sharesTheBindPoseOfASkeleton)
 {
     makeBodyAndJoints("");
-    make("polyCube -n coat; select -cl; skinCluster -tsb hip body; skinCluster hip coat");
-    EXPECT_EQ(names("ls -type dagPose"), "bindPose1");
-    EXPECT_EQ(names("skinCluster -q -inf coat"), "hip knee");
+    mel("polyCube -n coat; select -cl; skinCluster -tsb hip body; skinCluster hip coat");
+    EXPECT_EQ(melStrings("ls -type dagPose"), "bindPose1");
+    EXPECT_EQ(melStrings("skinCluster -q -inf coat"), "hip knee");
     EXPECT_EQ(inputs("bindPose1").find("knee.message -> bindPose1.members[2]") != std::string::npos,
               true);
-    make("skinCluster -e -ub body");
-    EXPECT_EQ(names("ls -type dagPose"), "bindPose1");
-    make("skinCluster -e -ub coat");
-    EXPECT_EQ(names("ls -type dagPose"), "");
+    mel("skinCluster -e -ub body");
+    EXPECT_EQ(melStrings("ls -type dagPose"), "bindPose1");
+    mel("skinCluster -e -ub coat");
+    EXPECT_EQ(melStrings("ls -type dagPose"), "");
 }
 
 // A deformer that is there already stays in front; no second intermediate shape is made.
 TEST_F(bindNetwork, continuesAChainOfDeformers)
 {
     makeBodyAndJoints("");
-    make("skinCluster -tsb -n first hip body; createNode -ss blendShape -n morph;"
-         "connectAttr first.outputGeometry[0] morph.input[0].inputGeometry;"
-         "connectAttr -f morph.outputGeometry[0] bodyShape.inMesh;"
-         "polyCube -n other; select -cl");
-    EXPECT_EQ(refusal("skinCluster -tsb knee body"),
+    mel("skinCluster -tsb -n first hip body; createNode -ss blendShape -n morph;"
+        "connectAttr first.outputGeometry[0] morph.input[0].inputGeometry;"
+        "connectAttr -f morph.outputGeometry[0] bodyShape.inMesh;"
+        "polyCube -n other; select -cl");
+    EXPECT_EQ(melError("skinCluster -tsb knee body"),
               "bodyShape is already connected to a skinCluster.");
-    EXPECT_EQ(names("ls -type mesh body*"), "bodyShape bodyShapeOrig");
-    make("skinCluster -e -ub first");
+    EXPECT_EQ(melStrings("ls -type mesh body*"), "bodyShape bodyShapeOrig");
+    mel("skinCluster -e -ub first");
     EXPECT_EQ(inputs("morph"), "tweak1.outputGeometry[0] -> morph.input[0].inputGeometry\n");
-    make("skinCluster -tsb -n second knee body");
+    mel("skinCluster -tsb -n second knee body");
     EXPECT_EQ(inputs("secondGroupParts"),
               "morph.outputGeometry[0] -> secondGroupParts.inputGeometry\n"
               "secondGroupId.groupId -> secondGroupParts.groupId\n");
-    EXPECT_EQ(names("ls -type mesh body*"), "bodyShape bodyShapeOrig");
+    EXPECT_EQ(melStrings("ls -type mesh body*"), "bodyShape bodyShapeOrig");
 }

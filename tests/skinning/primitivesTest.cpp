@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include <maya/MDagPath.h>
 #include <maya/MFnMesh.h>
+#include <maya/MIntArray.h>
 #include <maya/MPoint.h>
 #include <maya/MPointArray.h>
 #include <maya/MSelectionList.h>
@@ -8,12 +9,12 @@
 #include <cmath>
 #include <map>
 
-#include "skinning/skinningScene.h"
+#include "support/mayaSession.h"
 
 namespace
 {
 
-class primitives : public skinningScene
+class primitives : public MayaSession
 {
 protected:
     struct Mesh {
@@ -139,8 +140,8 @@ TEST_F(primitives, numbersVerticesAsMayaDoes)
     for (const auto &c : cases) {
         for (const char *history : {" -ch 1", " -ch 0"}) {
             SCOPED_TRACE(std::string(c.command) + history);
-            make("file -f -new");
-            make(std::string(c.command) + history + " -n made");
+            mel("file -f -new");
+            mel(std::string(c.command) + history + " -n made");
             const Mesh mesh = meshOf("made");
             EXPECT_EQ(mesh.points.length(), c.vertices);
             EXPECT_EQ(mesh.faceSizes.length(), c.faces);
@@ -157,22 +158,22 @@ TEST_F(primitives, numbersVerticesAsMayaDoes)
 
 TEST_F(primitives, followTheirAttributesUntilHistoryIsGone)
 {
-    EXPECT_EQ(names("polyCube -n body"), "body polyCube1");
-    EXPECT_EQ(names("polyCube"), "pCube1 polyCube2");
-    EXPECT_EQ(names("listRelatives -s pCube1 body"), "pCubeShape1 bodyShape");
-    EXPECT_EQ(names("ls -sl"), "pCube1");
-    make("setAttr polyCube1.sw 3; polyCube -e -w 6 polyCube1");
+    EXPECT_EQ(melStrings("polyCube -n body"), "body polyCube1");
+    EXPECT_EQ(melStrings("polyCube"), "pCube1 polyCube2");
+    EXPECT_EQ(melStrings("listRelatives -s pCube1 body"), "pCubeShape1 bodyShape");
+    EXPECT_EQ(melStrings("ls -sl"), "pCube1");
+    mel("setAttr polyCube1.sw 3; polyCube -e -w 6 polyCube1");
     EXPECT_EQ(meshOf("body").points.length(), 16u);
     EXPECT_EQ(text(meshOf("body").points[1]), "-1.0000 -0.5000 0.5000");
-    make("undo");
+    mel("undo");
     EXPECT_EQ(meshOf("body").points.length(), 8u);
-    make("polyCube -ch 0 -n box");
-    make("undo");
-    EXPECT_EQ(names("ls box*"), "");
-    make("redo");
+    mel("polyCube -ch 0 -n box");
+    mel("undo");
+    EXPECT_EQ(melStrings("ls box*"), "");
+    mel("redo");
     EXPECT_EQ(meshOf("box").points.length(), 8u);
-    EXPECT_EQ(names("polyCube -ch 0"), "pCube2");
-    EXPECT_EQ(refusal("polyCube -sx 0"), "Invalid value for flag 'subdivisionsX'.");
-    make("setAttr polyCube1.sw 100000000");
+    EXPECT_EQ(melStrings("polyCube -ch 0"), "pCube2");
+    EXPECT_EQ(melError("polyCube -sx 0"), "Invalid value for flag 'subdivisionsX'.");
+    mel("setAttr polyCube1.sw 100000000");
     EXPECT_EQ(meshOf("body").points.length(), 0u) << "what no memory could hold is not built";
 }

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "skinning/skinningScene.h"
+#include "support/mayaSession.h"
 
 namespace
 {
 
-class selectCommand : public skinningScene
+class selectCommand : public MayaSession
 {
 protected:
     selectCommand()
     {
-        make("polyCube -n a; polyCube -n b; group -em -n g; parent b g; select -cl; joint -n j; "
-             "select -cl");
+        mel("polyCube -n a; polyCube -n b; group -em -n g; parent b g; select -cl; joint -n j; "
+            "select -cl");
     }
 };
 
@@ -40,75 +40,80 @@ TEST_F(selectCommand, adjustsTheList)
         {"select aShape.f[5] a.e[11]", "a.f[5] a.e[11]"},
     };
     for (const auto &c : cases) {
-        make(c.commands);
-        EXPECT_EQ(names("ls -sl"), c.selected) << c.commands;
+        mel(c.commands);
+        EXPECT_EQ(melStrings("ls -sl"), c.selected) << c.commands;
     }
-    EXPECT_EQ(refusal("select b nobody"), "No object matches name: nobody");
-    EXPECT_EQ(names("ls -sl"), "a.f[5] a.e[11]") << "a refused call changes nothing";
-    make("select b; undo");
-    EXPECT_EQ(names("ls -sl"), "a.f[5] a.e[11]");
+    EXPECT_EQ(melError("select b nobody"), "No object matches name: nobody");
+    EXPECT_EQ(melStrings("ls -sl"), "a.f[5] a.e[11]") << "a refused call changes nothing";
+    mel("select b; undo");
+    EXPECT_EQ(melStrings("ls -sl"), "a.f[5] a.e[11]");
+    mel("redo");
+    EXPECT_EQ(melStrings("ls -sl"), "b");
 }
 
 TEST_F(selectCommand, expandsSets)
 {
-    make("skinCluster -tsb j a; select skinCluster1Set");
-    EXPECT_EQ(names("ls -sl"), "a.vtx[0:7]");
-    make("select -ne skinCluster1Set");
-    EXPECT_EQ(names("ls -sl"), "skinCluster1Set");
-    make("select initialShadingGroup");
-    EXPECT_EQ(names("ls -sl"), "a b");
+    mel("skinCluster -tsb j a; select skinCluster1Set");
+    EXPECT_EQ(melStrings("ls -sl"), "a.vtx[0:7]");
+    mel("select -ne skinCluster1Set");
+    EXPECT_EQ(melStrings("ls -sl"), "skinCluster1Set");
+    mel("select initialShadingGroup");
+    EXPECT_EQ(melStrings("ls -sl"), "a b");
 }
 
 TEST_F(selectCommand, keepsTheOrderOfPicksOnRequest)
 {
-    const std::string picks = "select a.vtx[5]; select -add a.vtx[0:2]; select -add a.vtx[4]";
-    make(picks);
-    EXPECT_EQ(names("ls -os"), "a.vtx[0:2] a.vtx[4:5]");
-    make("selectPref -trackSelectionOrder 1; " + picks);
-    EXPECT_EQ(number("selectPref -q -tso"), 1);
-    EXPECT_EQ(names("ls -os"), "a.vtx[5] a.vtx[0:2] a.vtx[4]");
-    EXPECT_EQ(names("ls -sl"), "a.vtx[0:2] a.vtx[4:5]");
+    const std::string picks = "select a.vtx[5]; select -add a.vtx[0:2]; select -add a.vtx[1:3]";
+    mel(picks);
+    EXPECT_EQ(melStrings("ls -os"), "a.vtx[0:3] a.vtx[5]");
+    mel("selectPref -trackSelectionOrder 1; " + picks);
+    EXPECT_EQ(melString("selectPref -q -tso"), "1");
+    EXPECT_EQ(melStrings("ls -os"), "a.vtx[5] a.vtx[0:2] a.vtx[3]");
+    EXPECT_EQ(melStrings("ls -sl"), "a.vtx[0:3] a.vtx[5]");
+    mel("selectPref -trackSelectionOrder 0");
+    EXPECT_EQ(melStrings("ls -os"), "a.vtx[0:3] a.vtx[5]");
 }
 
 TEST_F(selectCommand, leavesHilitedObjectsToHilite)
 {
-    make("hilite b");
-    EXPECT_EQ(names("ls -hl"), "b");
-    EXPECT_EQ(names("ls -sl"), "");
-    make("hilite a; hilite -u b");
-    EXPECT_EQ(names("ls -hl"), "a");
-    make("hilite -tgl a j");
-    EXPECT_EQ(names("ls -hl"), "j");
-    make("undo; hilite -r b");
-    EXPECT_EQ(names("ls -hl"), "b");
-    make("select a.vtx[0]; hilite -u a b");
-    EXPECT_EQ(names("ls -hl"), "") << "selecting components hilited the shape";
+    mel("hilite b");
+    EXPECT_EQ(melStrings("ls -hl"), "b");
+    EXPECT_EQ(melStrings("ls -sl"), "");
+    mel("hilite a; hilite -u b");
+    EXPECT_EQ(melStrings("ls -hl"), "a");
+    mel("hilite -tgl a j");
+    EXPECT_EQ(melStrings("ls -hl"), "j");
+    mel("undo; hilite -r b");
+    EXPECT_EQ(melStrings("ls -hl"), "b");
+    mel("select a.vtx[0]; hilite -u a b");
+    EXPECT_EQ(melStrings("ls -hl"), "") << "selecting components hilited the shape";
 }
 
 TEST_F(selectCommand, remembersWhatCanBePicked)
 {
-    EXPECT_EQ(number("selectType -q -ocm -alc"), 0);
-    make("selectType -ocm -alc true");
-    EXPECT_EQ(number("selectType -q -ocm -alc"), 1);
-    make("selectType -ocm -alc false; selectType -ocm -vertex true");
-    EXPECT_EQ(number("selectType -q -ocm -vertex"), 1);
-    EXPECT_EQ(number("selectType -q -ocm -alc"), 0);
-    make("undo");
-    EXPECT_EQ(number("selectType -q -ocm -alc"), 1);
-    make("select a.f[0]");
-    EXPECT_EQ(names("ls -sl"), "a.f[0]") << "scripts select what they like";
+    EXPECT_EQ(melString("selectType -q -ocm -alc"), "0");
+    mel("selectType -ocm -alc true");
+    EXPECT_EQ(melString("selectType -q -ocm -alc"), "1");
+    mel("selectType -ocm -alc false; selectType -ocm -vertex true");
+    EXPECT_EQ(melString("selectType -q -ocm -vertex"), "1");
+    EXPECT_EQ(melString("selectType -q -ocm -alc"), "0");
+    mel("undo");
+    EXPECT_EQ(melString("selectType -q -ocm -alc"), "1");
+    mel("select a.f[0]");
+    EXPECT_EQ(melStrings("ls -sl"), "a.f[0]") << "scripts select what they like";
+    mel("selectType -ocm -alc false");
 }
 
 TEST_F(selectCommand, givesJointsTheirParent)
 {
-    make("select j; joint -p 1 2 3 -n k; joint -r -p 1 0 0 -n l; select -cl; joint -n m");
-    EXPECT_EQ(names("listRelatives -p k l m"), "j k");
-    EXPECT_EQ(names("ls -sl"), "m");
-    EXPECT_EQ(numbers("joint -q -p l"), (std::vector<double>{2, 2, 3}));
-    EXPECT_EQ(names("listConnections -p 1 l.inverseScale"), "k.scale");
-    make("joint -e -co -p 0 0 0 k");
-    EXPECT_EQ(numbers("joint -q -p l"), (std::vector<double>{2, 2, 3}));
-    make("joint -e -p 5 0 0 -o 0 0 90 -rad 2 k");
-    EXPECT_EQ(numbers("joint -q -o k"), (std::vector<double>{0, 0, 90}));
-    EXPECT_EQ(numbers("getAttr k.t")[0], 5.0);
+    mel("select j; joint -p 1 2 3 -n k; joint -r -p 1 0 0 -n l; select -cl; joint -n m");
+    EXPECT_EQ(melStrings("listRelatives -p k l m"), "j k");
+    EXPECT_EQ(melStrings("ls -sl"), "m");
+    EXPECT_EQ(melNumbers("joint -q -p l"), (std::vector<double>{2, 2, 3}));
+    EXPECT_EQ(melStrings("listConnections -p 1 l.inverseScale"), "k.scale");
+    mel("joint -e -co -p 0 0 0 k");
+    EXPECT_EQ(melNumbers("joint -q -p l"), (std::vector<double>{2, 2, 3}));
+    mel("joint -e -p 5 0 0 -o 0 0 90 -rad 2 k");
+    EXPECT_EQ(melNumbers("joint -q -o k"), (std::vector<double>{0, 0, 90}));
+    EXPECT_EQ(melNumbers("getAttr k.t")[0], 5.0);
 }

@@ -87,7 +87,9 @@ std::string MayaSession::melError(const std::string &script)
 {
     takeErrors();
     EXPECT_FALSE(MGlobal::executeCommand(script.c_str(), false, true)) << script;
-    return takeErrors();
+    const std::string errors = takeErrors();
+    const std::string place = "line 1: ";
+    return errors.rfind(place, 0) == 0 ? errors.substr(place.size()) : errors;
 }
 
 void MayaSession::makeSkin(const std::string &mesh, const std::vector<std::string> &joints,
@@ -120,12 +122,17 @@ std::vector<double> MayaSession::exactWeights(int vertex, const std::string &mes
                       std::to_string(vertex) + "]");
 }
 
-std::string MayaSession::weights(int vertex, const std::string &mesh)
+std::string MayaSession::melWeights(const std::string &vertices, const std::string &skinCluster)
 {
     std::ostringstream text;
-    for (const double weight : exactWeights(vertex, mesh))
+    for (const double weight : melNumbers("skinPercent -q -v " + skinCluster + " " + vertices))
         text << (text.tellp() > 0 ? " " : "") << weight;
     return text.str();
+}
+
+std::string MayaSession::weights(int vertex, const std::string &mesh)
+{
+    return melWeights(mesh + ".vtx[" + std::to_string(vertex) + "]", mesh + "Skin");
 }
 
 std::string MayaSession::allWeights(const std::string &mesh)

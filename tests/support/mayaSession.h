@@ -29,7 +29,11 @@ protected:
     static std::string melString(const std::string &script);
     static std::vector<double> melNumbers(const std::string &script);
     static std::string melStrings(const std::string &script);
-    // Runs MEL that must fail and gives the errors that it shows, a line each.
+    // The weights of a vertex, or the mean of several: "0.5 0.25 0.25".
+    static std::string melWeights(const std::string &vertices,
+                                  const std::string &skinCluster = "skinCluster1");
+    // Runs MEL that must fail and gives the errors that it shows, a line each; that they are in
+    // line 1 goes without saying.
     std::string melError(const std::string &script);
 
     // A plane named `mesh` with a vertex per line of `rows`, an even number from 4 on, bound to

@@ -36,13 +36,6 @@ protected:
     // The weights of a vertex in the same form.
     static std::string weights(int vertex)
     {
-        std::string text;
-        for (const double weight :
-             melNumbers("skinPercent -q -v skin cloth.vtx[" + std::to_string(vertex) + "]")) {
-            char digits[32];
-            std::snprintf(digits, sizeof digits, "%s%.6g", text.empty() ? "" : " ", weight);
-            text += digits;
-        }
-        return text;
+        return melWeights("cloth.vtx[" + std::to_string(vertex) + "]", "skin");
     }
 };
