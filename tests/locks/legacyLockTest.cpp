@@ -21,9 +21,7 @@ protected:
 
 TEST_F(legacyLocks, lockThroughMayaAndStoreNothing)
 {
-    selectColumn(0);
-    alsoSelectRow(2);
-    call("lockSelected");
+    on("c0 r2", "lockSelected");
     EXPECT_EQ(locked(), "#.. #.. ### #.. #..");
     EXPECT_TRUE(isLockedInMaya("hip"));
     EXPECT_EQ(vertexLock(1), "1");
@@ -42,9 +40,7 @@ TEST_F(legacyLocks, lockThroughMayaAndStoreNothing)
 
 TEST_F(legacyLocks, unlockEverything)
 {
-    selectColumn(0);
-    alsoSelectRow(2);
-    call("lockSelected");
+    on("c0 r2", "lockSelected");
     call("unlockAll");
     EXPECT_EQ(locked(), "... ... ... ... ...");
     EXPECT_FALSE(isLockedInMaya("hip"));
@@ -53,9 +49,7 @@ TEST_F(legacyLocks, unlockEverything)
 
 TEST_F(legacyLocks, endAtAShapeRow)
 {
-    selectRow(0);
-    alsoSelectRow(2);
-    call("lockSelected");
+    on("r0 r2", "lockSelected");
     EXPECT_EQ(takeInfos(), kShapeRowForLocking);
     call("unlockSelected");
     EXPECT_EQ(takeInfos(), kShapeRowForUnlocking);
@@ -65,10 +59,7 @@ TEST_F(legacyLocks, endAtAShapeRow)
 TEST_F(legacyLocks, askASkinClusterWithoutTheAttributeOnce)
 {
     mel("deleteAttr bodySkin.lockVertex");
-    selectRow(1);
-    alsoSelectRow(2);
-    alsoSelectRow(3);
-    call("lockSelected");
+    on("r1 r2 r3", "lockSelected");
     const std::string errors = takeErrors();
     EXPECT_NE(errors, "");
     EXPECT_EQ(errors.find('\n'), std::string::npos) << errors;

@@ -22,10 +22,7 @@ protected:
     void lockSome()
     {
         loadBody();
-        selectColumn(0);
-        alsoSelectRow(2);
-        alsoSelect(4, 2);
-        call("newLockSelected");
+        on("c0 r2 4:2", "newLockSelected");
         ASSERT_EQ(locked(), "#.. #.. ### #.. #.#");
     }
 
@@ -62,10 +59,7 @@ TEST_F(lockFiles, findTheirShapesAndJointsInAnotherOrder)
     makeSkin("shirt", {"chest", "ankle"}, {{1, 0}, {1, 0}, {0, 1}, {1, 0}});
     loadBody();
     load("body.vtx[0] shirt.vtx[1:2]");
-    selectColumn(2);
-    alsoSelectRow(4);
-    alsoSelect(1, 0);
-    call("newLockSelected");
+    on("c2 r4 1:0", "newLockSelected");
     ASSERT_EQ(locked(), "..#. #.#. ..#. ..#. ####");
     saveAndOpen();
     load("shirt.vtx[1:2] body.vtx[0]");
@@ -76,9 +70,8 @@ TEST_F(lockFiles, findTheirShapesAndJointsInAnotherOrder)
 TEST_F(lockFiles, dropTheLocksOfAJointThatWasRenamed)
 {
     loadBody();
-    lock(2, 1);
-    selectColumn(1);
-    call("newLockSelected");
+    on("2:1", "newLockSelected");
+    on("c1", "newLockSelected");
     mel("rename knee shin");
     saveAndOpen();
     load("body");
@@ -107,17 +100,15 @@ TEST_F(lockFiles, keepTheLocksOfJointsBesideOneThatWasAdded)
 TEST_F(lockFiles, haveNoLockWhereACellWasUnlocked)
 {
     loadBody();
-    selectCells(2, 0, 2, 2);
-    call("lockCell");
-    selectCells(2, 0, 2, 1);
-    call("newUnlockSelected");
+    on("r2", "lockCell");
+    on("2:0 2:1", "newUnlockSelected");
     EXPECT_EQ(stored(), "cells 1[0] 1[1] 1[2]|ankle");
-    lock(2, 0);
+    on("2:0", "newLockSelected");
     EXPECT_EQ(stored(), "cells 1[0] 1[1] 1[2]|ankle 1[3]|hip");
     saveAndOpen();
     load("body");
     EXPECT_EQ(locked(), "... ... #.# ... ...");
-    lock(2, 1);
+    on("2:1", "newLockSelected");
     EXPECT_EQ(locked(), "... ... ### ... ...");
     saveAndOpen();
     load("body");
@@ -134,12 +125,11 @@ TEST_F(lockFiles, haveNoCellLockOverwrittenByTheNext)
     };
     mel(element(2, "|ankle") + element(3, "|hip"));
     load();
-    lock(2, 1);
+    on("2:1", "newLockSelected");
     EXPECT_EQ(stored(), "cells 1[2]|ankle 1[3]|hip 1[4]|knee");
-    selectCells(2, 0, 2, 2);
-    call("unlockCell");
+    on("r2", "unlockCell");
     EXPECT_EQ(stored(), "cells 1[2] 1[3] 1[4]");
-    lock(2, 0);
+    on("2:0", "newLockSelected");
     EXPECT_EQ(stored(), "cells 1[2] 1[3]|hip 1[4]") << "where no name stands";
 }
 
@@ -162,10 +152,7 @@ TEST_F(lockFiles, bringBackTheLocksOfScenesThatPeopleMade)
             continue; // nothing skinned, or skinned without a deformer set
         takeInfos();
         takeErrors();
-        selectColumn(0);
-        alsoSelectRow(2);
-        alsoSelect(3, 1);
-        call("newLockSelected");
+        on("c0 r2 3:1", "newLockSelected");
         // By whoever made the scene: the joint, or the whole skin cluster.
         if (takeInfos() == kJointAlreadyLocked || !takeErrors().empty())
             continue;

@@ -15,10 +15,7 @@ protected:
     }
     void lockARowAndTwoCells()
     {
-        selectRow(2);
-        alsoSelect(3, 0);
-        alsoSelect(3, 1);
-        call("newLockSelected");
+        on("r2 3:0 3:1", "newLockSelected");
         EXPECT_EQ(locked(), "... ... ### ##. ...");
     }
 };

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "locks/lockScene.h"
 
+#include <cstdio>
+#include <sstream>
+
 #include <QItemSelectionModel>
 
 #include <maya/MFnDependencyNode.h>
@@ -54,16 +57,6 @@ std::string storedCells(const MFnDependencyNode &node)
 
 } // namespace
 
-LockScene::LockScene()
-{
-    infoCallback_ = MCommandMessage::addCommandOutputCallback(keepInfo, this);
-}
-
-LockScene::~LockScene()
-{
-    MMessage::removeCallback(infoCallback_);
-}
-
 void LockScene::loadBody()
 {
     makeSkin("body", {"hip", "knee", "ankle"},
@@ -106,33 +99,21 @@ bool LockScene::isLockedInMaya(const std::string &joint)
     return melString("getAttr " + joint + ".lockInfluenceWeights") == "1";
 }
 
-void LockScene::alsoSelect(int row, int column)
+void LockScene::on(const std::string &parts, const char *slot)
 {
-    view_->selectionModel()->select(model_->index(row, column), QItemSelectionModel::Select);
-}
-
-void LockScene::alsoSelectRow(int row)
-{
-    view_->selectionModel()->select(model_->index(row, 0),
-                                    QItemSelectionModel::Select | QItemSelectionModel::Rows);
-}
-
-std::string LockScene::takeInfos()
-{
-    std::string taken;
-    taken.swap(infos_);
-    return taken;
-}
-
-void LockScene::lock(int row, int column)
-{
-    selectCells(row, column, row, column);
-    call("newLockSelected");
-}
-
-void LockScene::keepInfo(const MString &message, MCommandMessage::MessageType type, void *self)
-{
-    std::string &infos = static_cast<LockScene *>(self)->infos_;
-    if (type == MCommandMessage::kInfo)
-        infos += (infos.empty() ? "" : "\n") + std::string(message.asUTF8());
+    view_->clearSelection();
+    std::istringstream words(parts);
+    for (std::string word; words >> word;) {
+        int row = 0;
+        int column = 0;
+        QItemSelectionModel::SelectionFlags how = QItemSelectionModel::Select;
+        if (std::sscanf(word.c_str(), "c%d", &column) == 1)
+            how |= QItemSelectionModel::Columns;
+        else if (std::sscanf(word.c_str(), "r%d", &row) == 1)
+            how |= QItemSelectionModel::Rows;
+        else
+            EXPECT_EQ(std::sscanf(word.c_str(), "%d:%d", &row, &column), 2) << word;
+        view_->selectionModel()->select(model_->index(row, column), how);
+    }
+    call(slot);
 }

@@ -7,9 +7,6 @@
 class LockScene : public EditorScene
 {
 protected:
-    LockScene();
-    ~LockScene() override;
-
     // A mesh "body" of four vertices with the joints hip, knee and ankle; each has some weight.
     void loadBody();
 
@@ -24,19 +21,7 @@ protected:
     // Whether Maya has the joint locked.
     static bool isLockedInMaya(const std::string &joint);
 
-    // Adds to the selection of the table.
-    void alsoSelect(int row, int column);
-    void alsoSelectRow(int row);
-
-    // The infos shown since the last call, a line each.
-    std::string takeInfos();
-
-    // Selects that cell alone and locks it.
-    void lock(int row, int column);
-
-private:
-    static void keepInfo(const MString &message, MCommandMessage::MessageType type, void *self);
-
-    std::string infos_;
-    MCallbackId infoCallback_;
+    // Selects parts of the table in that order, and nothing else: "c0 r2 3:1" is a column, a row
+    // and a cell. Then calls a slot.
+    void on(const std::string &parts, const char *slot);
 };

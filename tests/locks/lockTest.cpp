@@ -14,8 +14,7 @@ TEST_F(lockSelected, locksAJointInTheTableInMayaAndOnEverySkinCluster)
     makeSkin("shirt", {"chest", "ankle"}, {{1, 0}, {1, 0}, {0, 1}, {1, 0}});
     loadBody();
     load("body shirt.vtx[2] shirt.vtx[0]");
-    selectColumn(1);
-    call("newLockSelected");
+    on("c1", "newLockSelected");
     EXPECT_EQ(locked(), ".#.. .#.. .#.. .#.. .#.. .#.. .#.. .#..");
     EXPECT_TRUE(isLockedInMaya("knee"));
     EXPECT_FALSE(isLockedInMaya("hip"));
@@ -25,8 +24,7 @@ TEST_F(lockSelected, locksAJointInTheTableInMayaAndOnEverySkinCluster)
 
     load();
     EXPECT_EQ(locked(), ".#.. .#.. .#.. .#.. .#.. .#.. .#.. .#..") << "after loading again";
-    selectColumn(1);
-    call("newUnlockSelected");
+    on("c1", "newUnlockSelected");
     EXPECT_EQ(stored("bodySkin") + stored("shirtSkin"), "");
     EXPECT_FALSE(isLockedInMaya("knee"));
 }
@@ -35,8 +33,7 @@ TEST_F(lockSelected, storesAJointOnceForAShapeThatIsLoadedTwice)
 {
     loadBody();
     load("body body.vtx[2]");
-    selectColumn(0);
-    call("newLockSelected");
+    on("c0", "newLockSelected");
     EXPECT_EQ(stored(), "joints |hip");
 }
 
@@ -44,8 +41,7 @@ TEST_F(lockSelected, onlyListsAJointThatMayaHasLocked)
 {
     loadBody();
     mel("setAttr hip.lockInfluenceWeights 1");
-    selectColumn(0);
-    call("newLockSelected");
+    on("c0", "newLockSelected");
     EXPECT_EQ(takeInfos(), kJointAlreadyLocked);
     EXPECT_EQ(locked(), "#.. #.. #.. #.. #..");
     EXPECT_EQ(stored(), "");
@@ -55,8 +51,7 @@ TEST_F(lockSelected, locksRowsByTheVerticesThatTheyStandFor)
 {
     loadBody();
     load("body.vtx[1] body.vtx[3]");
-    selectRow(2);
-    call("newLockSelected");
+    on("r2", "newLockSelected");
     EXPECT_EQ(locked(), "... ... ###");
     EXPECT_EQ(stored(), "vertices 3");
 }
@@ -64,9 +59,7 @@ TEST_F(lockSelected, locksRowsByTheVerticesThatTheyStandFor)
 TEST_F(lockSelected, locksSingleCells)
 {
     loadBody();
-    selectCells(2, 1, 3, 2);
-    alsoSelect(4, 0);
-    call("newLockSelected");
+    on("2:1 2:2 3:1 3:2 4:0", "newLockSelected");
     EXPECT_EQ(locked(), "... ... .## .## #..");
     EXPECT_EQ(stored(), "cells 1[0]|knee 1[1]|ankle 2[0]|knee 2[1]|ankle 3[0]|hip");
 }
@@ -74,17 +67,10 @@ TEST_F(lockSelected, locksSingleCells)
 TEST_F(lockSelected, saysWhatIsLockedAlreadyAndGoesOn)
 {
     loadBody();
-    selectColumn(0);
-    alsoSelectRow(1);
-    alsoSelect(3, 2);
-    call("newLockSelected");
+    on("c0 r1 3:2", "newLockSelected");
     EXPECT_EQ(takeInfos(), "");
     const std::string once = stored();
-    selectColumn(0);
-    alsoSelectRow(1);
-    alsoSelectRow(2);
-    alsoSelect(3, 2);
-    call("newLockSelected");
+    on("c0 r1 r2 3:2", "newLockSelected");
     EXPECT_EQ(takeInfos(), std::string(kJointAlreadyLocked) + "\n" + kRowAlreadyLocked);
     EXPECT_EQ(locked(), "#.. ### ### #.# #..");
     EXPECT_EQ(once, "joints |hip; vertices 0; cells 2[0]|ankle");
@@ -94,21 +80,15 @@ TEST_F(lockSelected, saysWhatIsLockedAlreadyAndGoesOn)
 TEST_F(lockSelected, endsAtAShapeRow)
 {
     loadBody();
-    selectRow(0);
-    alsoSelect(2, 1);
-    call("newLockSelected");
+    on("r0 2:1", "newLockSelected");
     EXPECT_EQ(takeInfos(), kShapeRowForLocking);
     EXPECT_EQ(locked(), "... ... ... ... ...");
 
-    selectRow(3); // in the order of selecting
-    alsoSelectRow(0);
-    alsoSelectRow(4);
-    call("newLockSelected");
+    on("r3 r0 r4", "newLockSelected"); // in the order of selecting
     EXPECT_EQ(takeInfos(), kShapeRowForLocking);
     EXPECT_EQ(locked(), "... ... ... ### ...");
 
-    selectCells(0, 1, 2, 1);
-    call("newLockSelected");
+    on("0:1 1:1 2:1", "newLockSelected");
     EXPECT_EQ(takeInfos(), kShapeRowForLocking) << "once, not for each cell";
     EXPECT_EQ(stored(), "vertices 2");
 }
@@ -140,8 +120,7 @@ class lockCell : public LockScene
 TEST_F(lockCell, storesASecondLockOfTheSameCell)
 {
     loadBody();
-    selectCells(2, 1, 2, 1);
-    call("lockCell");
+    on("2:1", "lockCell");
     call("lockCell");
     EXPECT_EQ(stored(), "cells 1[0]|knee 1[1]|knee");
     call("newUnlockSelected");
@@ -152,11 +131,9 @@ TEST_F(lockCell, storesASecondLockOfTheSameCell)
 TEST_F(lockCell, locksCellByCellWhatIsSelectedAsAWhole)
 {
     loadBody();
-    selectRow(2);
-    call("lockCell");
+    on("r2", "lockCell");
     EXPECT_EQ(stored(), "cells 1[0]|hip 1[1]|knee 1[2]|ankle");
-    selectColumn(1);
-    call("lockCell");
+    on("c1", "lockCell");
     EXPECT_EQ(takeInfos(), kShapeRowForLocking);
     EXPECT_EQ(locked(), "... ... ### ... ...");
 }

@@ -12,20 +12,14 @@ class unlockSelected : public LockScene
 TEST_F(unlockSelected, unlocksWhatIsLockedAndPassesOverTheRest)
 {
     loadBody();
-    selectColumn(0);
-    alsoSelectRow(2);
-    alsoSelect(4, 2);
-    call("newLockSelected");
+    on("c0 r2 4:2", "newLockSelected");
     view_->selectAll();
     view_->selectionModel()->select(
         QItemSelection(model_->index(0, 0), model_->index(0, 2)),
         QItemSelectionModel::Deselect); // leaves whole rows and no whole column
     call("newUnlockSelected");
     EXPECT_EQ(locked(), "#.. #.. #.. #.. #.#") << "a whole row is no cell of its column";
-    selectColumn(0);
-    alsoSelect(4, 2);
-    alsoSelect(3, 1);
-    call("newUnlockSelected");
+    on("c0 4:2 3:1", "newUnlockSelected");
     EXPECT_EQ(locked(), "... ... ... ... ...");
     EXPECT_EQ(stored(), "cells 3[0]");
     EXPECT_FALSE(isLockedInMaya("hip"));
@@ -35,18 +29,13 @@ TEST_F(unlockSelected, unlocksWhatIsLockedAndPassesOverTheRest)
 TEST_F(unlockSelected, endsAtAShapeRow)
 {
     loadBody();
-    selectRow(2);
-    call("newLockSelected");
-    selectRow(0);
-    alsoSelectRow(2);
-    call("newUnlockSelected");
+    on("r2", "newLockSelected");
+    on("r0 r2", "newUnlockSelected");
     EXPECT_EQ(takeInfos(), kShapeRowForUnlocking);
     EXPECT_EQ(locked(), "... ... ### ... ...");
 
-    selectColumn(1);
-    call("newLockSelected");
-    selectCells(0, 1, 0, 1);
-    call("newUnlockSelected");
+    on("c1", "newLockSelected");
+    on("0:1", "newUnlockSelected");
     EXPECT_EQ(takeInfos(), kShapeRowForLocking);
     EXPECT_EQ(locked(), ".#. .#. ### .#. .#.");
 }
@@ -56,10 +45,8 @@ TEST_F(unlockSelected, splitsALockedRowButForTheCellsThatAreSelected)
     makeSkin("shirt", {"chest", "ankle"}, {{1, 0}, {1, 0}, {0, 1}, {1, 0}});
     loadBody();
     load("body shirt.vtx[2]");
-    selectRow(2);
-    call("newLockSelected");
-    selectCells(2, 0, 2, 1);
-    call("newUnlockSelected");
+    on("r2", "newLockSelected");
+    on("2:0 2:1", "newUnlockSelected");
     EXPECT_EQ(locked(), ".... .... ..#. .... .... .... ....") << "chest shows no weight there";
     EXPECT_EQ(stored(), "cells 1[0]|ankle");
 }
@@ -69,10 +56,8 @@ TEST_F(unlockSelected, splitsALockedJointButForTheCellsThatAreSelected)
     makeSkin("shirt", {"chest", "ankle"}, {{1, 0}, {1, 0}, {0, 1}, {1, 0}});
     loadBody();
     load("body shirt.vtx[2]");
-    selectColumn(0);
-    call("newLockSelected");
-    selectCells(1, 0, 2, 0);
-    call("newUnlockSelected");
+    on("c0", "newLockSelected");
+    on("1:0 2:0", "newUnlockSelected");
     EXPECT_EQ(locked(), ".... .... .... #... #... .... ....");
     EXPECT_EQ(stored("bodySkin"), "cells 2[0]|hip 3[0]|hip");
     EXPECT_EQ(stored("shirtSkin"), "");
@@ -82,11 +67,8 @@ TEST_F(unlockSelected, splitsALockedJointButForTheCellsThatAreSelected)
 TEST_F(unlockSelected, splitsRowAndJointOfACellThatBothLock)
 {
     loadBody();
-    selectColumn(1);
-    alsoSelectRow(2);
-    call("newLockSelected");
-    selectCells(2, 1, 2, 1);
-    call("newUnlockSelected");
+    on("c1 r2", "newLockSelected");
+    on("2:1", "newUnlockSelected");
     EXPECT_EQ(locked(), "... .#. #.# .#. .#.");
     load();
     EXPECT_EQ(locked(), "... .#. #.# .#. .#.");
@@ -95,10 +77,8 @@ TEST_F(unlockSelected, splitsRowAndJointOfACellThatBothLock)
 TEST_F(unlockSelected, takesAWholeColumnAndACellOfItForTheColumn)
 {
     loadBody();
-    selectColumn(1);
-    call("newLockSelected");
-    alsoSelect(2, 1);
-    call("newUnlockSelected");
+    on("c1", "newLockSelected");
+    on("c1 2:1", "newUnlockSelected");
     EXPECT_EQ(locked(), "... ... ... ... ...");
     EXPECT_EQ(stored(), "");
 }
@@ -110,9 +90,8 @@ class unlockCell : public LockScene
 TEST_F(unlockCell, reportsEachCellThatIsNotLocked)
 {
     loadBody();
-    lock(2, 1);
-    selectCells(2, 0, 2, 2);
-    call("unlockCell");
+    on("2:1", "newLockSelected");
+    on("r2", "unlockCell");
     EXPECT_EQ(takeErrors(), std::string(kCellNotLocked) + "\n" + kCellNotLocked);
     EXPECT_EQ(locked(), "... ... ... ... ...");
 }
@@ -120,14 +99,11 @@ TEST_F(unlockCell, reportsEachCellThatIsNotLocked)
 TEST_F(unlockCell, splitsARowAndThenUnlocksTheOtherSelectedCells)
 {
     loadBody();
-    selectRow(2);
-    call("newLockSelected");
-    selectCells(2, 0, 2, 0);
-    call("unlockCell");
+    on("r2", "newLockSelected");
+    on("2:0", "unlockCell");
     EXPECT_EQ(locked(), "... ... .## ... ...");
     EXPECT_EQ(stored(), "cells 1[0]|knee 1[1]|ankle");
-    selectCells(2, 1, 2, 2);
-    call("unlockCell");
+    on("2:1 2:2", "unlockCell");
     EXPECT_EQ(locked(), "... ... ... ... ...");
     EXPECT_EQ(takeErrors(), "");
 }
@@ -135,8 +111,7 @@ TEST_F(unlockCell, splitsARowAndThenUnlocksTheOtherSelectedCells)
 TEST_F(unlockCell, endsAtAShapeRow)
 {
     loadBody();
-    selectColumn(1);
-    call("newLockSelected");
+    on("c1", "newLockSelected");
     call("unlockCell");
     EXPECT_EQ(takeInfos(), kShapeRowForLocking);
     EXPECT_EQ(locked(), ".#. .#. .#. .#. .#.");
@@ -149,10 +124,7 @@ class unlockAll : public LockScene
 TEST_F(unlockAll, unlocksAndRestoresEverything)
 {
     loadBody();
-    selectColumn(1);
-    alsoSelectRow(2);
-    alsoSelect(4, 2);
-    call("newLockSelected");
+    on("c1 r2 4:2", "newLockSelected");
     const std::string before = locked();
     call("newUnlockAll");
     EXPECT_EQ(locked(), "... ... ... ... ...");
@@ -169,7 +141,7 @@ TEST_F(unlockAll, unlocksAndRestoresEverything)
 TEST_F(unlockAll, forgetsWhatItRememberedWhenNothingIsLocked)
 {
     loadBody();
-    lock(2, 1);
+    on("2:1", "newLockSelected");
     call("newUnlockAll");
     call("newUnlockAll");
     EXPECT_EQ(takeErrors(), kNothingToUnlock);
@@ -180,9 +152,8 @@ TEST_F(unlockAll, forgetsWhatItRememberedWhenNothingIsLocked)
 TEST_F(unlockAll, restoresNothingBeyondATableThatBecameSmaller)
 {
     loadBody();
-    lock(4, 2);
-    selectRow(3);
-    call("newLockSelected");
+    on("4:2", "newLockSelected");
+    on("r3", "newLockSelected");
     call("newUnlockAll");
     load("body.vtx[0]");
     call("restoreLocks");
@@ -195,8 +166,7 @@ TEST_F(unlockAll, unlocksAJointThatSeveralSkinClustersStore)
     makeSkin("shirt", {"chest", "hip"}, {{1, 0}, {1, 0}, {0, 1}, {1, 0}});
     loadBody();
     load("body shirt");
-    selectColumn(0);
-    call("newLockSelected");
+    on("c0", "newLockSelected");
     load();
     call("newUnlockAll");
     EXPECT_EQ(stored("bodySkin") + stored("shirtSkin"), "");
