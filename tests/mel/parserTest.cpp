@@ -50,29 +50,8 @@ struct Case {
     std::string expected;
 };
 
-void PrintTo(const Case &testCase, std::ostream *stream)
-{
-    *stream << testCase.text.substr(0, 60);
-}
-
-class ParsesTo : public testing::TestWithParam<Case>
-{
-};
-class Refuses : public testing::TestWithParam<Case>
-{
-};
-
-TEST_P(ParsesTo, tree)
-{
-    EXPECT_EQ(tree(GetParam().text), GetParam().expected);
-}
-
-TEST_P(Refuses, withPlaceAndReason)
-{
-    EXPECT_EQ(tree(GetParam().text), GetParam().expected);
-}
-
-const Case kWords[] = {
+const Case kCases[] = {
+    // Words.
     {"select -r pCube1.vtx[3] ;", "select -r pCube1.vtx[3]"},
     {"select |a|b:c* ?x #1 -add", "select |a|b:c* ?x #1 -add"},
     {"setAttr .pt[0:2] 1 -.5 -2.2204460492503131e-016 1e+010 -nan -1.#IND 2.",
@@ -83,8 +62,7 @@ const Case kWords[] = {
     {"a;b\t;;\r\n c", "a; b; c"},
     {"// a; b\nf /* ; \" */ x // \"", "f x"},
     {"", ""},
-};
-const Case kStrings[] = {
+    // Strings.
     {R"(f "a;b" "//" "")", R"(f "a;b" "//" "")"},
     {R"(f "\"\\\n\t\r\q")", "f \"\"\\\n\t\rq\""},
     {"f \"a\nb\"", "f \"a\nb\""},
@@ -93,8 +71,7 @@ const Case kStrings[] = {
      "f \"ab\nc\" 1"},
     {R"(setAttr ("a" + ".tx") 5)", R"(setAttr "a.tx" 5)"},
     {R"(f (("a") + ("b" + "c")))", R"(f() "abc")"},
-};
-const Case kCalls[] = {
+    // Calls.
     {R"(menu("a", "b" ); print ("x") ;)", R"(menu() "a" "b"; print() "x")"},
     {"f();", "f()"},
     {"f(-1, -.5e-3, true, off)", "f() -1 -.5e-3 true off"},
@@ -106,8 +83,7 @@ const Case kCalls[] = {
     {"a `b (`c` + \"d\")`", "a [b() [+ [c] \"d\"]]"},
     {"a `b (\"c\") `d` `", "a [b \"c\" [d]]"},
     {"setAttr (\"a.tx\") `getAttr b.tx`", "setAttr \"a.tx\" [getAttr b.tx]"},
-};
-const Case kErrors[] = {
+    // What is refused.
     {"f a\n  $x", "Line 2.3: Syntax error: variables are not supported"},
     {"$x = 5", "Line 1.1: Syntax error: variables are not supported"},
     {"string $s[] = `ls`", "Line 1.8: Syntax error: variables are not supported"},
@@ -130,10 +106,11 @@ const Case kErrors[] = {
     {std::string("f \0", 3), "Line 1.3: Syntax error"},
 };
 
-INSTANTIATE_TEST_SUITE_P(words, ParsesTo, testing::ValuesIn(kWords));
-INSTANTIATE_TEST_SUITE_P(strings, ParsesTo, testing::ValuesIn(kStrings));
-INSTANTIATE_TEST_SUITE_P(calls, ParsesTo, testing::ValuesIn(kCalls));
-INSTANTIATE_TEST_SUITE_P(errors, Refuses, testing::ValuesIn(kErrors));
+TEST(parser, makesATreeOrTellsWhereItCanNot)
+{
+    for (const Case &c : kCases)
+        EXPECT_EQ(tree(c.text), c.expected) << c.text;
+}
 
 TEST(parser, givesPlacesAndTextsOfStatements)
 {

@@ -46,7 +46,7 @@ QColor dormantColor(const char *joint)
 
 } // namespace
 
-// Joints a to d; d is locked, and so are the vertex 3 and the cell of vertex 1 and a.
+// Joints a to d; d is locked, and so are the vertices 3 and 6 and the cell of vertex 1 and a.
 class presentation : public EditorScene
 {
 protected:
@@ -58,10 +58,13 @@ protected:
                   {0.5, 0.25, 0.25, 0},
                   {1, 0, 0, 0},
                   {0.5, 0.0005, 0.0004, 0},
-                  {0.2, 0.2, 0.2, 0.2}});
+                  {0.2, 0.2, 0.2, 0.2},
+                  {0.25, 0.25, 0.5, 0},
+                  {1, 0, 0, 0}});
         mel("setAttr b.useObjectColor 1; setAttr b.objectColor 3");
         load("body"); // adds the attributes that keep locks
         mel("setAttr bodySkin.lockedVertexIndices[3] 1;"
+            "setAttr bodySkin.lockedVertexIndices[6] 1;"
             "setAttr -type \"stringArray\" bodySkin.lockedJointNames 1 \"|d\";"
             "setAttr -type \"string\" bodySkin.lockedCellIndices[1].lockedLocalJoints[0] \"|a\"");
         load();
@@ -117,7 +120,8 @@ TEST_F(presentation, tellsTheStateOfEachHeader)
         {Qt::Vertical, 3, "vtx[2]", "yellow", "black"}, // three joints
         {Qt::Vertical, 4, "vtx[3]", "gray", "black"},
         {Qt::Vertical, 5, "vtx[4]", "red", ""},
-        {Qt::Vertical, 6, "vtx[5]", "red", "black"}, // four joints as well
+        {Qt::Vertical, 6, "vtx[5]", "red", "black"},    // four joints as well
+        {Qt::Vertical, 7, "vtx[6]", "yellow", "black"}, // locked as well
     };
     for (const auto &c : cases) {
         const auto header = [&](int role) {
@@ -134,6 +138,7 @@ TEST_F(presentation, paintsShapeRowsInTheColorsOfTheirJoints)
     EXPECT_EQ(cell(0, 0, Qt::BackgroundRole).value<QColor>(), dormantColor("a"));
     EXPECT_EQ(cell(0, 1, Qt::BackgroundRole).value<QColor>(), dormantColor("b"));
     EXPECT_NE(dormantColor("a"), dormantColor("b"));
+    EXPECT_EQ(cell(0, 3, Qt::BackgroundRole).value<QColor>(), dormantColor("d")) << "locked";
     EXPECT_EQ(cellText(0, 0), "");
     EXPECT_FALSE(cell(0, 0, Qt::ForegroundRole).isValid());
 }
@@ -142,9 +147,10 @@ TEST_F(presentation, leavesACellOfAForeignJointEmpty)
 {
     makeSkin("hat", {"e"}, {{1}, {1}, {1}, {1}});
     load("body hat.vtx[0]");
-    const int hatVertex = 8;
+    const int hatVertex = 10;
     EXPECT_EQ(cellText(hatVertex, 0), "");
     EXPECT_FALSE(cell(hatVertex, 0, Qt::BackgroundRole).isValid());
+    EXPECT_EQ(colorName(cell(hatVertex, 3, Qt::BackgroundRole)), "gray") << "locked";
     EXPECT_FALSE(cell(hatVertex, 4, Qt::ForegroundRole).isValid()) << "and out of the sum";
 }
 
