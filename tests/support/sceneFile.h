@@ -2,10 +2,11 @@
 // Scene files of a test: written from text, and the scene saved and read back as text.
 #pragma once
 
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
+
+#include <QTemporaryDir>
 
 #include <maya/MFileIO.h>
 
@@ -14,18 +15,10 @@
 class SceneFileTest : public MayaSession
 {
 protected:
-    SceneFileTest()
+    std::string path(const std::string &name) const
     {
-        const auto *test = testing::UnitTest::GetInstance()->current_test_info();
-        std::string name = std::string(test->test_suite_name()) + "-" + test->name();
-        for (char &c : name)
-            c = c == '/' ? '-' : c;
-        folder_ = std::filesystem::path(testing::TempDir()) / ("korvex-" + name);
-        std::filesystem::create_directories(folder_);
+        return folder_.filePath(QString::fromStdString(name)).toStdString();
     }
-    ~SceneFileTest() override { std::filesystem::remove_all(folder_); }
-
-    std::string path(const std::string &name) const { return (folder_ / name).string(); }
 
     // A file with Maya's usual beginning: the statements start in line 4.
     std::string write(const std::string &name, const std::string &statements,
@@ -60,5 +53,5 @@ protected:
     }
 
 private:
-    std::filesystem::path folder_;
+    QTemporaryDir folder_;
 };
