@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // The file command: its results, what it refuses, and what stands afterwards.
 
+#include <filesystem>
+
 #include "support/sceneFile.h"
 
 namespace

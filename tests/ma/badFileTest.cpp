@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // Files that are cut off, malformed or hostile: an error that names file and line, and the scene as
 // it was. What only a part of the file suffers from is a warning.
+#include <filesystem>
+
 #include "support/sceneFile.h"
 
 namespace

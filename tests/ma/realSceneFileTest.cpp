@@ -3,6 +3,7 @@
 // of the scenes comes from the environment variable KORVEX_SCENES.
 #include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <regex>
 
 #include "support/maText.h"
