@@ -67,8 +67,8 @@ bool korvexWindow::takePrecision(int digits)
     return true;
 }
 
-// The same for the model alone. A table that locks keep from being rounded anew
-// keeps its snapshots too: they belong to the last change that was made.
+// The same for the model alone. A table that locks keep from being rounded anew keeps its snapshots
+// too: they belong to the last change that was made.
 bool korvexWindow::setModelPrecision(int digits)
 {
     const bool isOpen = model_->locks().isEmpty();
