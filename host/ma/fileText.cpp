@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 #include <utility>
 
+#include "ma/standardStream.h"
 #include "scene/error.h"
 
 namespace host::ma
@@ -16,6 +17,7 @@ namespace
 {
 
 constexpr std::size_t kHeaderBytes = 4096;
+constexpr std::size_t kInputBytes = 1u << 20;
 constexpr std::string_view kFirstWords = "//Maya ASCII ";
 constexpr std::string_view kCodesetWords = "//Codeset:";
 
@@ -59,7 +61,12 @@ void throwFileError(const std::string &path, std::size_t line, const std::string
 
 FileText::FileText(std::string path) : path_(std::move(path))
 {
-    open();
+    if (path_ == kStandardStream)
+        openStandardInput();
+    else
+        open();
+    if (size_ == 0)
+        throwFileError(path_, 1, "The file is empty");
     header_ = readBytes(kHeaderBytes);
     readHeader();
 }
@@ -77,8 +84,22 @@ void FileText::open()
         throw Error(path_ + ": This is not a file" +
                     (S_ISDIR(facts.st_mode) ? " but a folder" : ""));
     size_ = std::size_t(facts.st_size);
-    if (size_ == 0)
-        throwFileError(path_, 1, "The file is empty");
+}
+
+void FileText::openStandardInput()
+{
+    path_ = "standard input";
+    std::size_t bytes = 0;
+    do {
+        input_.resize(input_.size() + kInputBytes);
+        bytes = std::fread(&input_[size_], 1, kInputBytes, stdin);
+        size_ += bytes;
+        input_.resize(size_);
+    } while (bytes == kInputBytes);
+    if (std::ferror(stdin))
+        throw Error(path_ + ": " + std::strerror(errno));
+    if (size_ > 0)
+        file_.reset(fmemopen(input_.data(), size_, "rb"));
 }
 
 std::string FileText::readBytes(std::size_t bytes)

@@ -3,7 +3,7 @@
 //
 // Opening it looks at the header: "//Maya ASCII 2017 scene", and "//Codeset: 1252" a few lines
 // below. Only what the caller keeps of the text is in memory, so a huge file costs no more than its
-// longest statement.
+// longest statement. Standard input is read whole: its size must be known, as that of a file is.
 #pragma once
 
 #include <cstdio>
@@ -25,10 +25,10 @@ class FileText
 {
 public:
     // Throws Error when there is no such file, it can't be read, is empty, binary, or no Maya ASCII
-    // file.
+    // file. With kStandardStream as path the text is that of standard input.
     explicit FileText(std::string path);
 
-    const std::string &path() const { return path_; }
+    const std::string &path() const { return path_; }       // how messages name it
     std::size_t size() const { return size_; }              // of the file, bytes
     std::size_t bytesRead() const { return bytesRead_; }    // so far
     const std::string &version() const { return version_; } // "2018ff07"
@@ -45,11 +45,13 @@ private:
         void operator()(std::FILE *file) const { std::fclose(file); }
     };
     void open();
+    void openStandardInput();
     std::string readBytes(std::size_t bytes);
     void readHeader();
     void refuseNulBytes(std::string_view bytes);
 
     std::string path_;
+    std::string input_; // all of standard input, if that is read
     std::unique_ptr<std::FILE, Closer> file_;
     std::size_t size_ = 0;
     std::size_t bytesRead_ = 0;

@@ -58,9 +58,8 @@ bool hasFlag(const mel::Statement &statement, std::string_view shortFlag, std::s
 
 Reader::Reader(mel::Interpreter &interpreter, const std::string &path, Scene &target)
     : interpreter_(interpreter), target_(target), file_(path), statements_(file_),
-      warnings_(interpreter.session().output(), path), context_{interpreter.session(), interpreter,
-                                                                &currentNode_,         true,
-                                                                file_.size(),          &target}
+      warnings_(interpreter.session().output(), file_.path()),
+      context_{interpreter.session(), interpreter, &currentNode_, true, file_.size(), &target}
 {
 }
 
