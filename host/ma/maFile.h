@@ -3,6 +3,8 @@
 //
 // Reading runs the file's statements through the MEL interpreter, against a scene of its own and
 // with only those commands that a file may hold. Writing gives a file that reads back equal.
+//
+// Paths are absolute, or kStandardStream (ma/standardStream.h).
 #pragma once
 
 #include <memory>
@@ -19,6 +21,10 @@ namespace host::ma
 // is shown as a warning with file and line.
 std::unique_ptr<Scene> readFile(mel::Interpreter &interpreter, const std::string &path);
 
+// Reads a file and puts it in place of the session's scene, with the events of opening; one from
+// standard input has no name. Throws Error as readFile does.
+void openFile(mel::Interpreter &interpreter, const std::string &path);
+
 // Reads the file's statements into the session's scene (file -import), recorded for undo if the
 // session records; names that clash get numbers, or go into `nameSpace` if it is not empty.
 void importFile(mel::Interpreter &interpreter, const std::string &path,
@@ -26,5 +32,12 @@ void importFile(mel::Interpreter &interpreter, const std::string &path,
 
 // Writes the scene. The file is replaced only when all of it could be written. Throws Error.
 void writeFile(Session &session, const std::string &path);
+
+// Writes the scene to its file from now on: the session has its name and is unmodified. Throws
+// Error.
+void saveFile(Session &session, const std::string &path);
+
+// The path from the root, without "..". Throws Error where the working folder is gone.
+std::string absolutePath(const std::string &path);
 
 } // namespace host::ma

@@ -8,6 +8,7 @@
 #include "ma/maFile.h"
 #include "ma/outputFile.h"
 #include "ma/sessionMark.h"
+#include "ma/standardStream.h"
 
 namespace host::ma
 {
@@ -191,12 +192,24 @@ void SceneWriter::writeConnectionsInto(const NodePtr &node)
     }
 }
 
+namespace
+{
+
+// As its header and its last line call it.
+std::string ownName(const Session &session, const std::string &path)
+{
+    const std::string &named = path == kStandardStream ? session.fileName() : path;
+    return named.empty() ? "untitled.ma" : named.substr(named.rfind('/') + 1);
+}
+
+} // namespace
+
 void writeFile(Session &session, const std::string &path)
 {
     const SessionMark mark(session.isWritingFile);
     OutputFile file(path);
     StatementWriter out([&file](std::string_view text) { file.write(text); });
-    SceneWriter(out, session.scene()).writeFile(path.substr(path.rfind('/') + 1));
+    SceneWriter(out, session.scene()).writeFile(ownName(session, path));
     out.finish();
     file.commit();
 }

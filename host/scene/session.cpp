@@ -35,6 +35,7 @@ void Session::replaceScene(std::unique_ptr<Scene> scene, std::string fileName, R
     scene_->setRecorder(&undo_);
     scene_->setModified(false);
     fileName_ = std::move(fileName);
+    confirmFileName();
     if (hadSelection)
         events_.raise("SelectionChanged");
     events_.raise("deleteAll");

@@ -43,7 +43,11 @@ public:
     // --- The file -----------------------------------------------------------------------------
     // Empty for a scene that has no file yet. An absolute path otherwise.
     const std::string &fileName() const { return fileName_; }
+    // The name for the next save. It holds once the scene was saved there and the name confirmed; a
+    // save that fails takes it back, so that the scene is again that of the file it came from.
     void setFileName(std::string name) { fileName_ = std::move(name); }
+    void confirmFileName() { confirmedFileName_ = fileName_; }
+    void takeBackFileName() { fileName_ = confirmedFileName_; }
     // Replaces the scene: the undo queue is flushed, selection and hilite list emptied, and
     // "SelectionChanged" (if there was a selection) and "deleteAll" raised; then either
     // "NewSceneOpened" or "PostSceneRead" and "SceneOpened".
@@ -91,6 +95,7 @@ private:
     std::unique_ptr<ToolState> tools_;
     std::unique_ptr<AdjacencyCache> adjacencies_;
     std::string fileName_;
+    std::string confirmedFileName_;
     SelectionList selection_;
     SelectionList ordered_;
     SelectionList hilited_;

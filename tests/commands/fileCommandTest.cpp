@@ -25,6 +25,19 @@ TEST_F(fileCommand, savesUnderTheNameThatItWasGiven)
     EXPECT_EQ(melStrings("ls -type joint"), "hip");
 }
 
+// Else the next save would go to the place that could not be written once more.
+TEST_F(fileCommand, keepsTheOldNameWhenSavingUnderAnotherFails)
+{
+    const std::string file = path("rig.ma");
+    mel("createNode joint -n hip; file -rename \"" + file + "\"; file -save");
+    for (const char *name : {"no/such/folder.ma", "rig.mb", "folder/"}) {
+        mel("file -rename \"" + path(name) + "\"");
+        EXPECT_NE(melError("file -f -save"), "");
+        EXPECT_EQ(melString("file -q -sn"), file) << name;
+    }
+    EXPECT_EQ(melString("file -f -save"), file);
+}
+
 TEST_F(fileCommand, losesNoChangesUnlessForced)
 {
     const std::string file = path("other.ma");

@@ -175,18 +175,4 @@ TEST_F(BadFile, mayHaveASkinOfNoVertices)
     EXPECT_NE(savedText(), "");
 }
 
-// What can't be written leaves the old file and nothing beside it.
-TEST_F(BadFile, isNotMadeByAFailingSave)
-{
-    const std::string folder = path("taken.ma");
-    std::filesystem::create_directory(folder);
-    for (const std::string &target : {folder, path("no/such/folder.ma")}) {
-        EXPECT_FALSE(MFileIO::exportAll(target.c_str()));
-        EXPECT_NE(takeErrors().find(target + ": The file could not be written"), std::string::npos);
-    }
-    EXPECT_TRUE(std::filesystem::is_empty(folder));
-    const auto entries = std::filesystem::directory_iterator(path(""));
-    EXPECT_EQ(std::distance(begin(entries), end(entries)), 1);
-}
-
 } // namespace

@@ -6,6 +6,7 @@
 #include <unordered_set>
 
 #include "ma/maFile.h"
+#include "ma/sessionMark.h"
 #include "mel/commands/builtInCommands.h"
 #include "mel/commands/commandSupport.h"
 #include "mel/commands/statementText.h"
@@ -47,31 +48,20 @@ const std::vector<Flag> kFlags = {
     {"rpr", "renamingPrefix", "s"},
 };
 
-// Sets a mark of the session for a while.
-class Mark
-{
-public:
-    explicit Mark(bool &mark) : mark_(mark) { mark_ = true; }
-    ~Mark() { mark_ = false; }
-    Mark(const Mark &) = delete;
-    Mark &operator=(const Mark &) = delete;
-
-private:
-    bool &mark_;
-};
-
 std::string pathOperand(const Arguments &arguments)
 {
     requireObjectCount(arguments, "file", 1, 1);
     const std::string &path = arguments.objects.front().string();
     if (path.empty())
         throw Error("file: No file name was given.");
-    return fs::absolute(path).lexically_normal().string();
+    return ma::absolutePath(path);
 }
 
 // The name under which a scene is written, with an extension.
 std::string writablePath(const std::string &path, const Arguments &arguments)
 {
+    if (!fs::path(path).has_filename())
+        throw Error("file: " + path + " names a folder, not a file.");
     const std::string type = arguments.string("type");
     const std::string extension = fs::path(path).extension().string();
     if ((!type.empty() && type != "mayaAscii") || (type.empty() && extension == ".mb"))
@@ -88,7 +78,7 @@ void refuseToLoseChanges(Context &context, const Arguments &arguments)
 MelValue newFile(Context &context, const Arguments &arguments)
 {
     refuseToLoseChanges(context, arguments);
-    const Mark mark(context.session.isNewingFile);
+    const ma::SessionMark mark(context.session.isNewingFile);
     context.session.replaceScene(std::make_unique<Scene>(), "", Session::Replacement::newScene);
     return std::string("untitled");
 }
@@ -97,12 +87,7 @@ MelValue open(Context &context, const Arguments &arguments)
 {
     const std::string path = pathOperand(arguments);
     refuseToLoseChanges(context, arguments);
-    std::unique_ptr<Scene> scene;
-    {
-        const Mark mark(context.session.isOpeningFile);
-        scene = ma::readFile(context.interpreter, path);
-    }
-    context.session.replaceScene(std::move(scene), path, Session::Replacement::openedFile);
+    ma::openFile(context.interpreter, path);
     return path;
 }
 
@@ -111,12 +96,14 @@ MelValue save(Context &context, const Arguments &arguments)
     Session &session = context.session;
     if (session.fileName().empty())
         throw Error("file: The scene has no name yet; -rename gives it one.");
-    const std::string path = writablePath(session.fileName(), arguments);
-    ma::writeFile(session, path);
-    session.setFileName(path);
-    session.scene().setModified(false);
-    session.events().raise("SceneSaved");
-    return path;
+    try {
+        const std::string path = writablePath(session.fileName(), arguments);
+        ma::saveFile(session, path);
+        return path;
+    } catch (...) {
+        session.takeBackFileName();
+        throw;
+    }
 }
 
 MelValue import(Context &context, const Arguments &arguments)

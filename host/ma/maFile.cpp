@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ma/maFile.h"
+
+#include <filesystem>
+
+#include "ma/sessionMark.h"
+#include "ma/standardStream.h"
+#include "scene/error.h"
+
+namespace host::ma
+{
+
+std::string absolutePath(const std::string &path)
+{
+    std::error_code problem;
+    const std::filesystem::path absolute = std::filesystem::absolute(path, problem);
+    if (problem)
+        throw Error(path +
+                    ": The folder that the program was started in is gone: " + problem.message());
+    return absolute.lexically_normal().string();
+}
+
+void openFile(mel::Interpreter &interpreter, const std::string &path)
+{
+    Session &session = interpreter.session();
+    std::unique_ptr<Scene> scene;
+    {
+        const SessionMark mark(session.isOpeningFile);
+        scene = readFile(interpreter, path);
+    }
+    session.replaceScene(std::move(scene), path == kStandardStream ? "" : path,
+                         Session::Replacement::openedFile);
+}
+
+void saveFile(Session &session, const std::string &path)
+{
+    writeFile(session, path);
+    session.setFileName(path);
+    session.confirmFileName();
+    session.scene().setModified(false);
+    session.events().raise("SceneSaved");
+}
+
+} // namespace host::ma
