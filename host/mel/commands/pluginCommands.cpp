@@ -45,8 +45,23 @@ std::string internalName(std::string_view text)
     return path.extension() == kPluginExtension ? path.stem().string() : path.filename().string();
 }
 
+// The folders of the running library and of the program. They need not be neighbours: some systems
+// have libraries in a folder per processor, two levels below plug-ins.
+std::vector<fs::path> ownFolders()
+{
+    std::error_code ignored;
+    std::vector<fs::path> folders;
+    Dl_info library = {};
+    if (dladdr(reinterpret_cast<const void *>(&addPluginCommands), &library) && library.dli_fname)
+        folders.push_back(fs::absolute(library.dli_fname, ignored).parent_path());
+    const fs::path program = fs::read_symlink("/proc/self/exe", ignored); // where there is /proc
+    if (!program.empty())
+        folders.push_back(program.parent_path());
+    return folders;
+}
+
 // Where a bare name is looked for: here, along MAYA_PLUG_IN_PATH, and in the folders plug-ins next
-// to and above the running library.
+// to and above the running library and the program.
 std::vector<fs::path> searchFolders()
 {
     std::error_code ignored;
@@ -58,9 +73,7 @@ std::vector<fs::path> searchFolders()
                 folders.emplace_back(folder);
         }
     }
-    Dl_info library = {};
-    if (dladdr(reinterpret_cast<const void *>(&addPluginCommands), &library) && library.dli_fname) {
-        const fs::path beside = fs::absolute(library.dli_fname, ignored).parent_path();
+    for (const fs::path &beside : ownFolders()) {
         folders.push_back(beside / "plug-ins");
         folders.push_back(beside.parent_path() / "plug-ins");
     }
