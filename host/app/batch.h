@@ -2,7 +2,10 @@
 // Batch mode: a scene and some MEL, no window.
 #pragma once
 
+#include <cstdio>
+
 #include "app/options.h"
+#include "scene/output.h"
 
 namespace host
 {
@@ -12,15 +15,13 @@ class Process;
 namespace host::app
 {
 
-// Prints messages as Maya's batch mode does: "Warning: ...", "Error: ..." on stderr, the rest on
-// stdout. Returns the exit code.
+// Does the options' steps. A scene or script that cannot be opened ends it: no command runs then,
+// nothing is saved, and the exit code is 1. With --strict any error ends it so. Returns the exit
+// code.
 int runBatch(Process &process, const Options &options);
 
-// Runs the options' -command and -script texts; stops early when one of them asked to quit. Used by
-// the window as well.
-void runScripts(Process &process, const Options &options);
-
-// The MEL string literal of a path.
-QString melQuoted(const QString &text);
+// Prints a message as Maya's batch mode does: "Warning: ...", "Error: ..." on stderr, the rest on
+// `stream`.
+void printMessage(const std::string &text, MessageKind kind, std::FILE *stream);
 
 } // namespace host::app

@@ -12,10 +12,10 @@
 #include <QProgressDialog>
 
 #include "api/process.h"
-#include "app/batch.h"
 #include "app/outliner.h"
 #include "app/recentFiles.h"
 #include "app/scriptEditor.h"
+#include "app/steps.h"
 #include "scene/meshGeometry.h"
 
 namespace host::app
@@ -218,9 +218,12 @@ void MainWindow::openRecent(const QString &path)
 
 bool MainWindow::openScene(const QString &path)
 {
-    const bool opened = tryMel("file -f -o " + melQuoted(path) + ";");
+    const QString mel = "file -f -o " + melQuoted(path) + ";"; // what a script would do
+    process_.session().output().send(MessageKind::history, mel.toStdString());
+    const bool opened = app::openScene(process_, path);
     delete findChild<QProgressDialog *>();
-    if (opened)
+    followSession();
+    if (opened && QFileInfo::exists(path)) // standard input can't be opened again
         recentFiles_->add(path);
     return opened;
 }

@@ -10,23 +10,22 @@ namespace host::app
 
 struct Options {
     bool isBatch = false;
-    bool isStrict = false; // batch: any error makes the exit code 1
+    bool isStrict = false; // batch: the first error ends it
 
-    // The steps, in this order: open, run each command, run the script, save.
+    // The steps, in this order: open, run each command, run the script, save. "-" is standard input
+    // or output.
     QString file;
     QStringList commands;
     QString script;
-    QString saveAs;
+    QString saveAs; // batch only
 
-    bool opensEditor = false; // --edit: load the plug-in and the scene's skinned meshes
-    QString picture;          // write a picture of the window there and quit
+    bool opensEditor = false;     // --edit: load the plug-in and the scene's skinned meshes
+    QString picture;              // write a picture of the window there and quit
+    bool choosesPlatform = false; // Qt's own -platform is given
 };
 
-// Reads the arguments of the running QCoreApplication. Prints help or version and exits if those
+// Reads the arguments; no application object is needed. Prints help or version and exits if those
 // are asked for, and exits with code 1 and a message on arguments that do not fit.
-Options readOptions();
-
-// Whether the raw arguments hold --batch; asked before any application object exists.
-bool wantsBatch(int argumentCount, char **arguments);
+Options readOptions(int argumentCount, char **arguments);
 
 } // namespace host::app

@@ -5,7 +5,7 @@
 #include <QScopedValueRollback>
 #include <QTreeWidgetItemIterator>
 
-#include "app/batch.h"
+#include "app/steps.h"
 
 namespace host::app
 {
