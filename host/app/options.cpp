@@ -37,10 +37,42 @@ const char kDescription[] =
     "- as -file or -script is standard input, as -save standard output; messages then go to "
     "standard error.";
 
-// Taken by Qt itself from the arguments of a window's application.
+const struct {
+    const char *names; // with blanks in between
+    const char *value; // what the help calls it; null for a switch
+    const char *description;
+} kOptions[] = {
+    {"batch", nullptr, "Run without a window."},
+    {"strict", nullptr, "Batch: the first error ends it, with exit code 1."},
+    {"file", "scene", "Open this scene first."},
+    {"command", "mel", "Run this MEL; may be given repeatedly."},
+    {"script", "file", "Run the MEL in this file."},
+    {"save", "file", "Batch: write the scene to this .ma file at the end."},
+    {"edit", "scene", "Open the weight editor on this scene."},
+    {"picture", "png", "Write a picture of the window, then quit."},
+    {"help h", nullptr, "Show this text."},
+    {"version v", nullptr, "Show the version."},
+};
+
+// Qt takes these itself from the arguments of an application with windows.
 const char *const kOptionsOfQt[] = {
     "platform", "platformpluginpath", "platformtheme", "plugin",  "qwindowgeometry", "qwindowicon",
     "session",  "qwindowtitle",       "style",         "display", "stylesheet",      "geometry"};
+
+void describeOptions(QCommandLineParser &parser)
+{
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    parser.setApplicationDescription(kDescription);
+    for (const auto &row : kOptions)
+        parser.addOption(
+            QCommandLineOption(QString(row.names).split(' '), row.description, row.value));
+    for (const char *name : kOptionsOfQt) {
+        QCommandLineOption option(QString(name), QString(), "value");
+        option.setFlags(QCommandLineOption::HiddenFromHelp);
+        parser.addOption(option);
+    }
+    parser.addPositionalArgument("scene", "The scene to open.", "[scene]");
+}
 
 QStringList decoded(int argumentCount, char **arguments)
 {
@@ -53,13 +85,26 @@ QStringList decoded(int argumentCount, char **arguments)
     return all;
 }
 
-void addOptionsOfQt(QCommandLineParser &parser)
+// The value of an option that makes sense once; empty if it is not given.
+QString singleValue(const QCommandLineParser &parser, const QString &name)
 {
-    for (const char *name : kOptionsOfQt) {
-        QCommandLineOption option(QString::fromLatin1(name), QString(), "value");
-        option.setFlags(QCommandLineOption::HiddenFromHelp);
-        parser.addOption(option);
-    }
+    const QStringList values = parser.values(name);
+    if (values.size() > 1)
+        refuse("--" + name + " is given more than once");
+    if (values.contains(QString()))
+        refuse("--" + name + " is given without a name");
+    return values.value(0);
+}
+
+QString sceneOf(const QCommandLineParser &parser)
+{
+    const QStringList scenes =
+        parser.values("file") + parser.values("edit") + parser.positionalArguments();
+    if (scenes.size() > 1)
+        refuse("one scene at a time: " + scenes.join(", "));
+    if (scenes.contains(QString()))
+        refuse("the name of the scene is empty");
+    return scenes.value(0);
 }
 
 // All that can be said against saving there before there is anything to save.
@@ -100,58 +145,25 @@ void check(const Options &options)
 Options readOptions(int argumentCount, char **arguments)
 {
     QCommandLineParser parser;
-    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.setApplicationDescription(QString::fromUtf8(kDescription));
-    const QCommandLineOption help({"help", "h"}, "Show this text.");
-    const QCommandLineOption version({"version", "v"}, "Show the version.");
-    const QCommandLineOption batch("batch", "Run without a window.");
-    const QCommandLineOption strict("strict", "Batch: the first error ends it, with exit code 1.");
-    const QCommandLineOption file("file", "Open this scene first.", "scene");
-    const QCommandLineOption command("command", "Run this MEL; may be given repeatedly.", "mel");
-    const QCommandLineOption script("script", "Run the MEL in this file.", "file");
-    const QCommandLineOption save("save", "Batch: write the scene to this .ma file at the end.",
-                                  "file");
-    const QCommandLineOption edit("edit", "Open the weight editor on this scene.", "scene");
-    const QCommandLineOption picture("picture", "Write a picture of the window, then quit.", "png");
-    parser.addOptions({help, version, batch, strict, file, command, script, save, edit, picture});
-    parser.addPositionalArgument("scene", "The scene to open.", "[scene]");
-    addOptionsOfQt(parser);
-
+    describeOptions(parser);
     if (!parser.parse(decoded(argumentCount, arguments)))
         refuse(parser.errorText() + " korvex --help lists the options.");
-    if (parser.isSet(version))
+    if (parser.isSet("version"))
         show(QCoreApplication::applicationName() + ' ' + KORVEX_VERSION + '\n');
-    if (parser.isSet(help)) {
+    if (parser.isSet("help")) {
         const QCoreApplication named(argumentCount, arguments); // for the line "Usage:"
         show(parser.helpText());
     }
-
-    // The value of an option that makes sense once.
-    const auto single = [&parser](const QCommandLineOption &option) {
-        const QStringList values = parser.values(option);
-        const QString name = "--" + option.names().first();
-        if (values.size() > 1)
-            refuse(name + " is given more than once");
-        if (!values.isEmpty() && values.first().isEmpty())
-            refuse(name + " is given without a name");
-        return values.value(0);
-    };
     Options options;
-    options.isBatch = parser.isSet(batch);
-    options.isStrict = parser.isSet(strict);
-    options.commands = parser.values(command);
-    options.script = single(script);
-    options.saveAs = single(save);
-    options.opensEditor = parser.isSet(edit);
-    options.picture = single(picture);
+    options.isBatch = parser.isSet("batch");
+    options.isStrict = parser.isSet("strict");
+    options.file = sceneOf(parser);
+    options.commands = parser.values("command");
+    options.script = singleValue(parser, "script");
+    options.saveAs = singleValue(parser, "save");
+    options.opensEditor = parser.isSet("edit");
+    options.picture = singleValue(parser, "picture");
     options.choosesPlatform = parser.isSet("platform");
-    const QStringList scenes =
-        parser.values(file) + parser.values(edit) + parser.positionalArguments();
-    if (scenes.size() > 1)
-        refuse("one scene at a time: " + scenes.join(", "));
-    if (scenes.contains(QString()))
-        refuse("the name of the scene is empty");
-    options.file = scenes.value(0);
     check(options);
     return options;
 }

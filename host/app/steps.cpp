@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <functional>
 #include <new>
+#include <vector>
 
 #include "api/process.h"
 #include "ma/maFile.h"
@@ -101,10 +102,10 @@ bool runScripts(Process &process, const Options &options)
         QString mel;
         QString file;
     };
-    QList<Text> texts;
+    std::vector<Text> texts;
     for (const QString &command : options.commands)
-        texts.append({command, QString()});
-    texts.append({script, scriptName(options.script)});
+        texts.push_back({command, QString()});
+    texts.push_back({script, scriptName(options.script)});
 
     const auto isStopped = [&] { return options.isStrict && output.errorCount() > 0; };
     for (const Text &text : texts) {
