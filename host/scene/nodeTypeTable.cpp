@@ -257,6 +257,13 @@ influenceColor ifcl float3[] names=influenceColorR/ifcr,influenceColorG/ifcg,inf
 
 type blendShape : geometryFilter
 type deltaMush : weightGeometryFilter
+type tension : weightGeometryFilter
+type morph : weightGeometryFilter
+type solidify : weightGeometryFilter
+type shrinkWrap : weightGeometryFilter
+type proximityWrap : weightGeometryFilter
+type softMod : weightGeometryFilter
+type jiggle : weightGeometryFilter
 type cluster : weightGeometryFilter
 type ffd : geometryFilter
 type nonLinear : weightGeometryFilter
