@@ -273,9 +273,12 @@ void MainWindow::loadSkinnedMeshes()
 {
     QStringList shapes;
     for (const NodePtr &node : process_.session().scene().nodes()) {
-        const NodePtr shape = node->isA("skinCluster") ? deformedShape(*node) : nullptr;
-        if (shape && shape->isA("mesh"))
-            shapes.append(melQuoted(shown(DagPath::first(shape).parent().fullName())));
+        if (!node->isA("skinCluster"))
+            continue;
+        for (const NodePtr &shape : deformedShapes(*node)) {
+            if (shape->isA("mesh"))
+                shapes.append(melQuoted(shown(DagPath::first(shape).parent().fullName())));
+        }
     }
     if (shapes.isEmpty())
         return;

@@ -28,37 +28,75 @@ Plug firstConnected(const NodePtr &node, const AttributePtr &attribute)
     return Plug();
 }
 
-Plug deformerInput(const NodePtr &node, int index)
+// "ip" alone is the mesh that a modelling node changes, "ip[]" the inputs of a deformer.
+struct GeometryName {
+    std::string_view longName;
+    std::string_view shortName;
+    bool isArray;
+    std::string_view above; // the compound that has it on a deformer
+};
+constexpr GeometryName kGeometryNames[] = {
+    {"input", "ip", true, {}},
+    {"inputGeometry", "ig", false, "input"},
+    {"inputPolymesh", "ip", false, {}},
+    {"outputGeometry", "og", true, {}},
+};
+
+// inputGeometry of the elements of a deformer's input; null on other nodes.
+AttributePtr deformerInput(const Node &node)
 {
-    const AttributePtr input = node->findAttribute("input");
-    const AttributePtr geometry = input ? input->child("inputGeometry") : nullptr;
-    if (!geometry)
-        return Plug();
-    Plug plug(node, geometry);
-    plug.indices[0] = std::max(0, index);
-    return plug;
+    const AttributePtr geometry = geometryAttribute(node, "inputGeometry");
+    return geometry && geometry->parent && geometry->parent->isArray ? geometry : nullptr;
 }
 
-// An array of compounds with a geometry child, on a deformer whose type the host does not know:
-// "ip[0].ig".
-Plug learnedDeformerInput(const NodePtr &node, int index)
+// The outputs of the node that are made from the geometry at `input`.
+std::vector<Plug> outputsMadeFrom(const Plug &input)
 {
-    for (const std::string_view name : {"ip", "input"}) {
-        const AttributePtr input = node->findAttribute(name);
-        if (!input || !input->isArray)
-            continue;
-        for (const std::string_view child : {"ig", "inputGeometry"}) {
-            if (const AttributePtr geometry = input->child(child)) {
-                Plug plug(node, geometry);
-                plug.indices[0] = std::max(0, index);
-                return plug;
-            }
-        }
+    std::vector<Plug> outputs;
+    for (const auto &entry : input.node->allDestinations()) {
+        Plug output = input.node->plugOf(entry.first);
+        if (geometryInputFor(output) == input)
+            outputs.push_back(std::move(output));
     }
-    return Plug();
+    return outputs;
+}
+
+template <class Item>
+void appendNew(const Item &item, std::vector<Item> &items)
+{
+    if (std::find(items.begin(), items.end(), item) == items.end())
+        items.push_back(item);
 }
 
 } // namespace
+
+AttributePtr geometryAttribute(const Node &node, std::string_view name)
+{
+    if (AttributePtr attribute = node.findAttribute(name))
+        return attribute;
+    const auto row =
+        std::find_if(std::begin(kGeometryNames), std::end(kGeometryNames),
+                     [name](const GeometryName &candidate) { return candidate.longName == name; });
+    if (row == std::end(kGeometryNames) || node.type().isKnown)
+        return nullptr;
+    const AttributePtr above = row->above.empty() ? nullptr : geometryAttribute(node, row->above);
+    for (const std::string_view other : {row->longName, row->shortName}) {
+        const AttributePtr attribute = above ? above->child(other) : node.findAttribute(other);
+        if (attribute && attribute->isArray == row->isArray)
+            return attribute;
+    }
+    return nullptr;
+}
+
+bool isDeformer(const Node &node)
+{
+    if (node.isA("geometryFilter"))
+        return true;
+    if (node.type().isKnown || !deformerInput(node))
+        return false;
+    const AttributePtr output = geometryAttribute(node, "outputGeometry");
+    return output && output->isArray;
+}
 
 Plug shapeInput(const Node &shape)
 {
@@ -74,11 +112,11 @@ Plug geometryInputFor(const Plug &output)
     const NodePtr &node = output.node;
     if (node->isA("shape"))
         return Plug();
-    if (node->isA("geometryFilter"))
-        return deformerInput(node, output.indices[0]);
-    const Plug learned = learnedDeformerInput(node, output.indices[0]);
-    if (!learned.isNull())
-        return learned;
+    if (const AttributePtr geometry = deformerInput(*node)) {
+        Plug plug(node, geometry);
+        plug.indices[0] = std::max(0, output.indices[0]);
+        return plug;
+    }
     for (const std::string_view name : kInputNames) {
         const AttributePtr attribute = node->findAttribute(name);
         const Plug plug = attribute ? firstConnected(node, attribute) : Plug();
@@ -92,7 +130,7 @@ std::vector<NodePtr> geometryHistory(const Plug &input)
 {
     std::vector<NodePtr> history;
     Plug step = input;
-    while (!step.isNull()) {
+    while (!step.isNull() && history.size() < kMaxHistoryLength) {
         const Connection *connection = step.node->source(step);
         if (!connection)
             break;
@@ -103,6 +141,22 @@ std::vector<NodePtr> geometryHistory(const Plug &input)
         step = geometryInputFor(output);
     }
     return history;
+}
+
+std::vector<NodePtr> shapesFedBy(const Plug &output)
+{
+    std::vector<NodePtr> shapes;
+    std::vector<Plug> outputs{output};
+    for (std::size_t i = 0; i < outputs.size() && i < kMaxHistoryLength; ++i) {
+        for (const Connection &connection : outputs[i].node->destinations(outputs[i])) {
+            const Plug input = connection.plug();
+            if (input == shapeInput(*input.node))
+                appendNew(input.node, shapes);
+            for (const Plug &next : outputsMadeFrom(input))
+                appendNew(next, outputs);
+        }
+    }
+    return shapes;
 }
 
 } // namespace host

@@ -201,36 +201,25 @@ std::vector<NodePtr> skinClustersOf(const Node &mesh)
     return clusters;
 }
 
-namespace
+std::vector<NodePtr> deformedShapes(const Node &deformer)
 {
-
-// Whether something of what the node gives out is made from the geometry that comes in at `input`.
-bool passesGeometryOn(const Node &node, const Plug &input)
-{
-    const auto &outputs = node.allDestinations();
-    return std::any_of(outputs.begin(), outputs.end(), [&](const auto &output) {
-        return geometryInputFor(node.plugOf(output.first)) == input;
-    });
-}
-
-} // namespace
-
-NodePtr deformedShape(const Node &skinCluster)
-{
-    std::vector<const Node *> visited{&skinCluster};
-    for (std::size_t i = 0; i < visited.size() && i < 1000; ++i) {
-        for (const auto &entry : visited[i]->allDestinations()) {
-            for (const Connection &end : entry.second) {
-                Node *node = end.node;
-                if (node->isA("shape") && end.plug() == shapeInput(*node))
-                    return node->shared_from_this();
-                const bool isNew = std::find(visited.begin(), visited.end(), node) == visited.end();
-                if (isNew && passesGeometryOn(*node, end.plug()))
-                    visited.push_back(node);
-            }
+    std::vector<NodePtr> shapes;
+    const AttributePtr geometry = geometryAttribute(deformer, "outputGeometry");
+    for (const auto &output : deformer.allDestinations()) {
+        if (output.first.attribute != geometry.get())
+            continue;
+        for (const NodePtr &shape : shapesFedBy(deformer.plugOf(output.first))) {
+            if (std::find(shapes.begin(), shapes.end(), shape) == shapes.end())
+                shapes.push_back(shape);
         }
     }
-    return nullptr;
+    return shapes;
+}
+
+NodePtr deformedShape(const Node &deformer)
+{
+    const std::vector<NodePtr> shapes = deformedShapes(deformer);
+    return shapes.empty() ? nullptr : shapes.front();
 }
 
 } // namespace host

@@ -35,7 +35,9 @@ skin::Adjacency meshAdjacency(const MeshGeometry &geometry);
 
 // The deformer or shape upstream: skin clusters that deform `mesh`, nearest to the shape first.
 std::vector<NodePtr> skinClustersOf(const Node &mesh);
-// The shape that a skin cluster deforms, following outputGeometry downstream; null if none.
-NodePtr deformedShape(const Node &skinCluster);
+// The shapes that a deformer ends in, each once, in the order of its outputs; the first of them, or
+// null.
+std::vector<NodePtr> deformedShapes(const Node &deformer);
+NodePtr deformedShape(const Node &deformer);
 
 } // namespace host

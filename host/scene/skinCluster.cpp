@@ -162,6 +162,13 @@ NodePtr SkinCluster::shape() const
     return deformedShape(*node_);
 }
 
+bool SkinCluster::deforms(const Node &shape) const
+{
+    const std::vector<NodePtr> shapes = deformedShapes(*node_);
+    return std::any_of(shapes.begin(), shapes.end(),
+                       [&shape](const NodePtr &node) { return node.get() == &shape; });
+}
+
 std::size_t SkinCluster::vertexCount() const
 {
     const NodePtr mesh = shape();

@@ -41,7 +41,8 @@ public:
     int indexOf(const Node &influence) const;
     std::vector<bool> locks() const;                    // lockInfluenceWeights of every influence
     skin::WriteSettings settings(bool normalize) const; // normalizeWeights, maxInfluences, ...
-    NodePtr shape() const;                              // the deformed shape; null if none
+    NodePtr shape() const;                              // the first deformed shape; null if none
+    bool deforms(const Node &shape) const;              // whether it is one of them
     // Rows of the weight list: at least as many as the shape has vertices once it is bound.
     std::size_t vertexCount() const;
 

@@ -118,7 +118,7 @@ bool isDeformed(const Node &mesh)
 {
     const std::vector<NodePtr> history = geometryHistory(shapeInput(mesh));
     return std::any_of(history.begin(), history.end(),
-                       [](const NodePtr &node) { return node->isA("geometryFilter"); });
+                       [](const NodePtr &node) { return isDeformer(*node); });
 }
 
 // The set that a deformer uses; null if there is none.

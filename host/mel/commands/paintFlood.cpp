@@ -38,7 +38,7 @@ std::vector<NodePtr> selectedSkinClusters(const Session &session)
 // The vertices that take paint. Those outside the deformer have no row and get none.
 std::vector<int> paintedVertices(const Session &session, const SkinCluster &cluster)
 {
-    std::vector<int> vertices = selectedVertices(session, *cluster.shape());
+    std::vector<int> vertices = selectedVertices(session, cluster);
     if (vertices.empty())
         vertices = allVertices(cluster);
     const skin::WeightStore &weights = *cluster.node()->weights();

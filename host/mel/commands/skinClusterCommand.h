@@ -36,9 +36,9 @@ SkinCluster requireSkinCluster(Context &context, const Arguments &arguments);
 // Physical index of the influence of that name; throws Error if it is none of the cluster's.
 std::size_t requireInfluence(Context &context, const SkinCluster &cluster, std::string_view name);
 
-// The vertices of a shape that are selected, ascending; empty if there are none, whatever else of
-// it is selected.
-std::vector<int> selectedVertices(const Session &session, const Node &shape);
+// The vertices of the cluster's shapes that are selected, ascending; empty if there are none,
+// whatever else of them is selected.
+std::vector<int> selectedVertices(const Session &session, const SkinCluster &cluster);
 
 // What joins the vertices of the shape that a cluster deforms. Refuses shapes without known faces.
 // Valid until the next call.

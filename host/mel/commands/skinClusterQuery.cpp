@@ -45,14 +45,16 @@ MelValue unusedInfluenceCount(const Question &question)
 
 MelValue geometryNames(const Question &question)
 {
-    const NodePtr shape = question.cluster.shape();
-    return shape ? std::vector<std::string>{shape->uniqueName()} : std::vector<std::string>();
+    std::vector<std::string> names;
+    for (const NodePtr &shape : deformedShapes(*question.cluster.node()))
+        names.push_back(shape->uniqueName());
+    return names;
 }
 
 MelValue geometryIndices(const Question &question)
 {
-    const NodePtr shape = question.cluster.shape();
-    return shape ? std::vector<long long>{0} : std::vector<long long>();
+    // One weight list is for one geometry, whichever shapes show it.
+    return std::vector<long long>(deformedShapes(*question.cluster.node()).size(), 0);
 }
 
 // The influence that "-influence name", in front of -query, asks about.

@@ -49,12 +49,12 @@ bool exceedsLimit(const skin::RowView &row, unsigned limit)
 
 } // namespace
 
-std::vector<int> selectedVertices(const Session &session, const Node &shape)
+std::vector<int> selectedVertices(const Session &session, const SkinCluster &cluster)
 {
     Component vertices;
     for (const SelectionItem &item : session.selection().items()) {
-        const bool isOfShape = item.component && item.path.node().get() == &shape;
-        if (isOfShape && item.component->kind == ComponentKind::vertex)
+        const bool isVertices = item.component && item.component->kind == ComponentKind::vertex;
+        if (isVertices && cluster.deforms(*item.path.node()))
             vertices.merge(*item.component);
     }
     return vertices.elements;
@@ -84,7 +84,7 @@ void smoothSkinCluster(Context &context, const Arguments &arguments, const SkinC
 {
     const skin::SmoothSettings settings = smoothSettings(arguments, cluster);
     const skin::Adjacency &adjacency = requireAdjacency(context.session, cluster);
-    const std::vector<int> selected = selectedVertices(context.session, *cluster.shape());
+    const std::vector<int> selected = selectedVertices(context.session, cluster);
     const std::vector<std::uint32_t> vertices(selected.begin(), selected.end());
     skin::WeightStore weights = *cluster.node()->weights();
     const std::vector<std::uint32_t> changed =

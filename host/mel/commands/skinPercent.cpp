@@ -34,11 +34,11 @@ struct Call {
     std::vector<int> vertices; // each once
 };
 
-// The vertices of the cluster's shape that an item means; a whole object means all of them.
+// The vertices of the cluster's shapes that an item means; a whole object means all of them.
 std::vector<int> verticesOf(const SkinCluster &cluster, const SelectionItem &item)
 {
     const DagPath shape = visibleShape(item);
-    if (shape.isNull() || shape.node() != cluster.shape())
+    if (shape.isNull() || !cluster.deforms(*shape.node()))
         throw Error("'" + item.names().front() + "' is not deformed by " +
                     cluster.node()->uniqueName() + ".");
     if (!item.component)
