@@ -8,6 +8,7 @@
 #include "api/nodeBody.h"
 #include "api/process.h"
 #include "api/text.h"
+#include "scene/history.h"
 
 using host::answer;
 using host::AttributePtr;
@@ -38,6 +39,13 @@ std::vector<AttributePtr> allAttributes(const NodePtr &node)
     std::vector<AttributePtr> all;
     listAttributes(node->attributes(), all);
     return all;
+}
+
+// By long or short name; the attributes that geometry goes through answer to both of theirs even on
+// a node of a type that the host does not know.
+AttributePtr attributeNamed(const NodePtr &node, const MString &name)
+{
+    return host::geometryAttribute(*node, host::view(name));
 }
 
 bool isTaken(const NodePtr &node, const host::Attribute &attribute)
@@ -141,7 +149,7 @@ MObject MFnDependencyNode::attribute(unsigned int index, MStatus *ReturnStatus) 
 MObject MFnDependencyNode::attribute(const MString &attrName, MStatus *ReturnStatus) const
 {
     const NodePtr node = nodeFor(*this, ReturnStatus);
-    const AttributePtr found = node ? node->findAttribute(host::view(attrName)) : nullptr;
+    const AttributePtr found = node ? attributeNamed(node, attrName) : nullptr;
     if (node && !found)
         host::report(ReturnStatus, MStatus::kInvalidParameter);
     return host::toObject(found);
@@ -165,7 +173,7 @@ MPlug MFnDependencyNode::findPlug(const MString &attrName, bool wantNetworkedPlu
     const NodePtr node = nodeFor(*this, ReturnStatus);
     if (!node)
         return MPlug();
-    const AttributePtr found = node->findAttribute(host::view(attrName));
+    const AttributePtr found = attributeNamed(node, attrName);
     if (!found)
         return answer(ReturnStatus, MStatus::kInvalidParameter, MPlug());
     return host::toMPlug(Plug(node, found), wantNetworkedPlug);
@@ -213,7 +221,7 @@ MStatus MFnDependencyNode::removeAttribute(const MObject &attr)
 bool MFnDependencyNode::hasAttribute(const MString &name, MStatus *ReturnStatus) const
 {
     const NodePtr node = nodeFor(*this, ReturnStatus);
-    return node && node->findAttribute(host::view(name));
+    return node && attributeNamed(node, name);
 }
 
 bool MFnDependencyNode::isFromReferencedFile(MStatus *ReturnStatus) const

@@ -3,6 +3,8 @@
 #include <maya/MFnGeometryFilter.h>
 #include <maya/MObjectArray.h>
 
+#include <algorithm>
+
 #include "api/functionSet.h"
 #include "api/nodeBody.h"
 #include "scene/history.h"
@@ -15,59 +17,28 @@ using host::Plug;
 namespace
 {
 
-// Deformers between a deformer and its shape, at most; a longer chain is a loop.
-constexpr int kMaxChainLength = 1000;
-
-Plug outputOf(const NodePtr &filter)
+Plug outputAt(const NodePtr &filter, int index)
 {
-    return filter->plug("outputGeometry");
-}
-
-// The next geometry output downstream of a plug that is fed by a deformer.
-Plug outputBehind(const Plug &input)
-{
-    const NodePtr &node = input.node;
-    if (node->isA("geometryFilter") && input.indices[0] != host::kNoIndex)
-        return outputOf(node).element(input.indices[0]);
-    return node->findAttribute("outputGeometry") ? outputOf(node) : Plug();
-}
-
-// The shape at the end of the deformers behind `output`; null if there is none.
-NodePtr shapeBehind(Plug output)
-{
-    for (int step = 0; step < kMaxChainLength && !output.isNull(); ++step) {
-        const std::vector<host::Connection> destinations = output.node->destinations(output);
-        output = Plug();
-        for (const host::Connection &connection : destinations) {
-            const Plug input = connection.plug();
-            if (input.node->isA("shape"))
-                return input.node;
-            if (output.isNull())
-                output = outputBehind(input);
-        }
-    }
-    return nullptr;
+    return filter->plug("outputGeometry").element(index);
 }
 
 // Existing elements of outputGeometry, by logical index.
 std::vector<int> outputIndices(const NodePtr &filter)
 {
-    return host::elementIndices(outputOf(filter));
+    return host::elementIndices(filter->plug("outputGeometry"));
 }
 
-NodePtr outputShape(const NodePtr &filter, int index)
+std::vector<NodePtr> outputShapes(const NodePtr &filter, int index)
 {
-    return shapeBehind(outputOf(filter).element(index));
+    return host::shapesFedBy(outputAt(filter, index));
 }
 
-NodePtr inputShape(const NodePtr &filter, int index)
+std::vector<NodePtr> inputShapes(const NodePtr &filter, int index)
 {
-    const Plug input =
-        filter->plug("input").element(index).child(filter->findAttribute("inputGeometry"));
-    for (const NodePtr &node : host::geometryHistory(input))
+    for (const NodePtr &node : host::geometryHistory(host::geometryInputFor(outputAt(filter, index))))
         if (node->isA("shape"))
-            return node;
-    return nullptr;
+            return {node};
+    return {};
 }
 
 NodePtr filterFor(const MFnBase &functionSet, MStatus *status)
@@ -77,24 +48,43 @@ NodePtr filterFor(const MFnBase &functionSet, MStatus *status)
     return node;
 }
 
-MStatus listShapes(const MFnBase &functionSet, NodePtr (*shapeAt)(const NodePtr &, int),
-                   MObjectArray &objects)
+using ShapesAt = std::vector<NodePtr> (*)(const NodePtr &filter, int index);
+
+// The shapes of all indices, each once.
+MStatus listShapes(const MFnBase &functionSet, ShapesAt shapesAt, MObjectArray &objects)
 {
     const NodePtr filter = host::nodeOf(functionSet);
     if (!filter)
         return MStatus::kFailure;
+    std::vector<NodePtr> listed;
     MObjectArray shapes;
-    for (const int index : outputIndices(filter))
-        if (const NodePtr shape = shapeAt(filter, index))
+    for (const int index : outputIndices(filter)) {
+        for (const NodePtr &shape : shapesAt(filter, index)) {
+            if (std::find(listed.begin(), listed.end(), shape) != listed.end())
+                continue;
+            listed.push_back(shape);
             shapes.append(host::toObject(shape));
+        }
+    }
     objects = shapes;
     return MStatus::kSuccess;
 }
 
-MObject shapeObject(const NodePtr &shape, MStatus *status)
+// The first shape of an index.
+MObject shapeAtIndex(const MFnBase &functionSet, ShapesAt shapesAt, unsigned int index,
+                     MStatus *status)
 {
-    return answer(status, shape ? MStatus::kSuccess : MStatus::kInvalidParameter,
-                  host::toObject(shape));
+    const NodePtr filter = filterFor(functionSet, status);
+    if (!filter)
+        return MObject();
+    const std::vector<NodePtr> shapes = shapesAt(filter, static_cast<int>(index));
+    return shapes.empty() ? answer(status, MStatus::kInvalidParameter, MObject())
+                          : host::toObject(shapes.front());
+}
+
+bool isConnected(const NodePtr &filter, int index)
+{
+    return !filter->destinations(outputAt(filter, index)).empty();
 }
 
 } // namespace
@@ -103,26 +93,22 @@ DEFINE_FUNCTION_SET(MFnGeometryFilter, MFn::kGeometryFilt)
 
 MStatus MFnGeometryFilter::getInputGeometry(MObjectArray &objects) const
 {
-    return listShapes(*this, inputShape, objects);
+    return listShapes(*this, inputShapes, objects);
 }
 
 MStatus MFnGeometryFilter::getOutputGeometry(MObjectArray &objects) const
 {
-    return listShapes(*this, outputShape, objects);
+    return listShapes(*this, outputShapes, objects);
 }
 
 MObject MFnGeometryFilter::inputShapeAtIndex(unsigned int index, MStatus *ReturnStatus) const
 {
-    const NodePtr filter = filterFor(*this, ReturnStatus);
-    return filter ? shapeObject(inputShape(filter, static_cast<int>(index)), ReturnStatus)
-                  : MObject();
+    return shapeAtIndex(*this, inputShapes, index, ReturnStatus);
 }
 
 MObject MFnGeometryFilter::outputShapeAtIndex(unsigned int index, MStatus *ReturnStatus) const
 {
-    const NodePtr filter = filterFor(*this, ReturnStatus);
-    return filter ? shapeObject(outputShape(filter, static_cast<int>(index)), ReturnStatus)
-                  : MObject();
+    return shapeAtIndex(*this, outputShapes, index, ReturnStatus);
 }
 
 unsigned int MFnGeometryFilter::indexForOutputShape(const MObject &shape,
@@ -132,9 +118,11 @@ unsigned int MFnGeometryFilter::indexForOutputShape(const MObject &shape,
     if (!filter)
         return 0;
     const NodePtr wanted = host::nodeOf(shape);
-    for (const int index : outputIndices(filter))
-        if (wanted && outputShape(filter, index) == wanted)
+    for (const int index : outputIndices(filter)) {
+        const std::vector<NodePtr> shapes = outputShapes(filter, index);
+        if (wanted && std::find(shapes.begin(), shapes.end(), wanted) != shapes.end())
             return static_cast<unsigned int>(index);
+    }
     return answer(ReturnStatus, MStatus::kInvalidParameter, 0u);
 }
 
@@ -152,7 +140,7 @@ unsigned int MFnGeometryFilter::numOutputConnections(MStatus *ReturnStatus) cons
         return 0;
     unsigned int count = 0;
     for (const int index : outputIndices(filter))
-        count += !filter->destinations(outputOf(filter).element(index)).empty();
+        count += isConnected(filter, index);
     return count;
 }
 
@@ -163,8 +151,7 @@ unsigned int MFnGeometryFilter::indexForOutputConnection(unsigned int connection
     if (!filter)
         return 0;
     for (const int index : outputIndices(filter)) {
-        const bool isConnected = !filter->destinations(outputOf(filter).element(index)).empty();
-        if (isConnected && connectionIndex-- == 0)
+        if (isConnected(filter, index) && connectionIndex-- == 0)
             return static_cast<unsigned int>(index);
     }
     return answer(ReturnStatus, MStatus::kInvalidParameter, 0u);

@@ -32,12 +32,16 @@ struct Call {
     MStatus status;
 };
 
-// The deformed shape itself, or its transform.
-bool isOfShape(const DagPath &path, const NodePtr &shape)
+// The one of the deformed shapes that the path leads to, or is the transform of; null if none.
+NodePtr shapeAt(const DagPath &path, const std::vector<NodePtr> &shapes)
 {
-    const auto &parents = shape->parents();
-    return path.node() == shape ||
-           std::find(parents.begin(), parents.end(), path.node().get()) != parents.end();
+    for (const NodePtr &shape : shapes) {
+        const auto &parents = shape->parents();
+        if (path.node() == shape ||
+            std::find(parents.begin(), parents.end(), path.node().get()) != parents.end())
+            return shape;
+    }
+    return nullptr;
 }
 
 // Shapes that are not this cluster's are a kFailure; anything that is no list of its vertices is a
@@ -47,9 +51,10 @@ Call beginCall(const MFnBase &functionSet, const MDagPath &path, const MObject &
     Call call;
     call.node = host::nodeOf(functionSet);
     const DagPath *shapePath = host::pathOf(path);
-    const NodePtr shape = call.node ? host::deformedShape(*call.node) : nullptr;
+    const NodePtr shape =
+        call.node && shapePath ? shapeAt(*shapePath, host::deformedShapes(*call.node)) : nullptr;
     host::Component component;
-    if (!shape || !shapePath || !isOfShape(*shapePath, shape))
+    if (!shape)
         call.status = MStatus::kFailure;
     else if (!host::toComponent(components, component) ||
              component.kind != host::ComponentKind::vertex)
