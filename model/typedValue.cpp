@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "model/typedValue.h"
 
-#include <QtGlobal>
+#include <QtCore/qnumeric.h>
 
 namespace
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ui/weightScale.h"
 
+#include <QtCore/qnumeric.h>
 #include <QtGlobal>
 
 #include <cmath>
