@@ -8,6 +8,7 @@
 #include <maya/MFnNumericData.h>
 #include <maya/MFnStringArrayData.h>
 #include <maya/MFnTypedAttribute.h>
+#include <maya/MGlobal.h>
 #include <maya/MPlug.h>
 
 namespace
@@ -70,6 +71,18 @@ void addMissingLockAttributes(const MObject &skinCluster)
         if (!node.hasAttribute(attribute.name))
             node.addAttribute(attribute.create());
     }
+}
+
+// By commands that are not undoable: what the user undoes next is what it would have been.
+void addMissingLockAttributesQuietly(const MObject &skinCluster)
+{
+    if (hasLockAttributes(skinCluster))
+        return;
+    int wasModified = 1;
+    MGlobal::executeCommand("file -query -modified", wasModified);
+    addMissingLockAttributes(skinCluster);
+    if (wasModified == 0)
+        MGlobal::executeCommand("file -modified 0");
 }
 
 bool hasLockAttributes(const MObject &skinCluster)

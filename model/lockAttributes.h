@@ -30,6 +30,9 @@ struct storedCellLock {
 // Adds whichever of the three attributes the skin cluster lacks. A node that takes no attribute (it
 // is locked) stays as it is; its locks read as none.
 void addMissingLockAttributes(const MObject &skinCluster);
+// The same, but a scene without changes counts as such afterwards: attributes without a lock are no
+// reason to save it.
+void addMissingLockAttributesQuietly(const MObject &skinCluster);
 // Whether it has all three.
 bool hasLockAttributes(const MObject &skinCluster);
 

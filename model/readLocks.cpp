@@ -53,7 +53,7 @@ void weightTableModel::checkLockAttr()
             MGlobal::displayError(kShapeNotInTable);
             return;
         }
-        addMissingLockAttributes(weights_.skinClusters[shape]);
+        addMissingLockAttributesQuietly(weights_.skinClusters[shape]);
         vertexRowFinder rows(weights_.rowNames, weights_.firstVertexRow(shape),
                              weights_.endOfVertexRows(shape));
         readJointLocks(weights_, shape, locks_);
