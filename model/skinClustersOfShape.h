@@ -5,6 +5,7 @@
 #include <maya/MDagPath.h>
 #include <maya/MObjectArray.h>
 
-// The skin clusters whose deformer sets the shape is a member of, in the order of the shape's
-// groups; one that is reached more than once stands there as often. Empty for what is not a shape.
+// Each once: first those whose deformer sets the shape is a member of, in the order of its groups,
+// then those that its geometry comes through besides, the one nearest to the shape first. Empty for
+// what is not a shape.
 MObjectArray skinClustersOfShape(const MDagPath &shape);
