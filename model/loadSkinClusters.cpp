@@ -14,6 +14,7 @@
 #include <maya/MFnSkinCluster.h>
 #include <maya/MGlobal.h>
 #include <maya/MSelectionList.h>
+#include <maya/MStringArray.h>
 
 namespace
 {
@@ -39,9 +40,26 @@ void gatherShape(const selectedShape &shape, weightList &weights)
     }
 }
 
+// As Maya lists it: "body", "body.f[0]".
+MString firstName(const MSelectionList &selection)
+{
+    MStringArray names;
+    selection.getSelectionStrings(0, names);
+    return names.length() > 0 ? names[0] : MString();
+}
+
 } // namespace
 
 void weightTableModel::refreshSkinClusterData()
+{
+    loadSelection();
+    MSelectionList selection;
+    MGlobal::getActiveSelectionList(selection);
+    if (weights_.shapeCount() == 0 && !selection.isEmpty())
+        MGlobal::displayWarning(messageWith(kNothingSkinnedSelected, firstName(selection)));
+}
+
+void weightTableModel::loadSelection()
 {
     beginResetModel();
     weightsBeforeLoad_ = weights_;

@@ -5,6 +5,10 @@
 const char kNothingLoaded[] = "There is no weight list displayed in the window.";
 const char kNoCellSelected[] = "There is no cell selected.";
 
+// Loading.
+const char kNothingSkinnedSelected[] = // ^1s: the first object that is selected
+    "Nothing was loaded: ^1s is neither a skinned mesh nor vertices of one.";
+
 // Rounding.
 const char kRowWithoutColumns[] = "This row doesn't have more than 2 columns.";
 const char kRowWithoutWeight[] = "There is something wrong accessing weight data.";

@@ -72,6 +72,11 @@ public:
     void ignoreNextSelectionChange() { ignoreNextSelectionChange_ = true; }
     bool takeIgnoredSelectionChange();
 
+    // Replaces the table by the weights of what is selected in Maya. Shapes without a skin cluster,
+    // and those of which faces or edges are selected, add nothing. While auto update is on, an
+    // empty selection keeps the table.
+    void loadSelection();
+
     // Selects the rows of the mesh vertices that are selected in Maya, and no others. Picked faces
     // and edges, and vertices that are not loaded, select nothing.
     void mirrorMayaSelection();
@@ -91,9 +96,7 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
 public slots:
-    // Replaces the table by the weights of what is selected in Maya. Shapes without a skin cluster,
-    // and those of which faces or edges are selected, add nothing. While auto update is on, an
-    // empty selection keeps the table.
+    // loadSelection(), with a warning where something is selected and nothing of it can be loaded.
     void refreshSkinClusterData();
 
     // Whether the table follows each change of Maya's selection.

@@ -20,7 +20,7 @@ void onSelectionChanged(void *model)
     if (MFileIO::isReadingFile() || MFileIO::isNewingFile())
         return;
     if (autoUpdate)
-        table.refreshSkinClusterData();
+        table.loadSelection();
     else
         table.mirrorMayaSelection();
     MGlobal::executeCommand("refresh");
