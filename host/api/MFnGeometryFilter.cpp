@@ -35,7 +35,8 @@ std::vector<NodePtr> outputShapes(const NodePtr &filter, int index)
 
 std::vector<NodePtr> inputShapes(const NodePtr &filter, int index)
 {
-    for (const NodePtr &node : host::geometryHistory(host::geometryInputFor(outputAt(filter, index))))
+    for (const NodePtr &node :
+         host::geometryHistory(host::geometryInputFor(outputAt(filter, index))))
         if (node->isA("shape"))
             return {node};
     return {};

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Walking over meshes and along the graph.
+#include <maya/MDoubleArray.h>
 #include <maya/MFnMesh.h>
 #include <maya/MFnSet.h>
 #include <maya/MIntArray.h>
@@ -112,4 +113,30 @@ TEST_F(geometry, isFollowedUpstreamToTheSkinCluster)
     members.getSelectionStrings(names);
     ASSERT_EQ(names.length(), 1u);
     EXPECT_TRUE(names[0] == "body.vtx[0:19]") << names[0];
+}
+
+// One output may feed several shapes; each of them is asked and written like the other.
+TEST_F(geometry, showsTheSkinInEveryShapeBehindIt)
+{
+    mel("createNode mesh -n copyShape; createNode mesh -n farShape; createNode deltaMush -n mush;"
+        "connectAttr skinCluster1.og[0] copyShape.inMesh;"
+        "connectAttr skinCluster1.og[0] mush.ip[0].ig; connectAttr mush.og[0] farShape.inMesh;");
+    MObjectArray shapes;
+    EXPECT_TRUE(skin_.getOutputGeometry(shapes));
+    std::string names;
+    for (unsigned int i = 0; i < shapes.length(); ++i) {
+        names += MFnDependencyNode(shapes[i]).name().asChar() + std::string(" ");
+        EXPECT_EQ(skin_.indexForOutputShape(shapes[i]), 0u);
+    }
+    EXPECT_EQ(names, "bodyShape copyShape farShape ");
+    MDoubleArray weights;
+    EXPECT_TRUE(skin_.setWeights(path("farShape"), vertices({3}), 2, 1.0));
+    EXPECT_TRUE(skin_.getWeights(path("copyShape"), vertices({3}), 2, weights));
+    EXPECT_EQ(weights[0], 1.0);
+    EXPECT_FALSE(skin_.getWeights(path("bodyShapeOrig"), vertices({3}), 2, weights));
+
+    const std::string untouched = melWeights("body.vtx[12]");
+    mel("select -r farShape.vtx[3]; skinCluster -e -sw 0 -swi 1 skinCluster1");
+    EXPECT_EQ(melWeights("body.vtx[12]"), untouched);
+    EXPECT_NE(melWeights("farShape.vtx[3]"), "0 0 1");
 }

@@ -2,11 +2,14 @@
 //
 // Locks outlive the scene's being saved and opened again, by themselves or with changes between.
 
+#include <sstream>
+
 #include <QDir>
 #include <QTemporaryDir>
 
 #include "locks/lockScene.h"
 #include "model/messages.h"
+#include "support/componentTags.h"
 
 class lockFiles : public LockScene
 {
@@ -140,28 +143,63 @@ TEST_F(lockFiles, bringBackTheLocksOfScenesThatPeopleMade)
     const QDir scenes(qEnvironmentVariable("KORVEX_SCENES"));
     int skinCount = 0;
     for (const QString &name : scenes.entryList({"*.ma"})) {
-        SCOPED_TRACE(name.toStdString());
-        mel("file -f -open \"" + scenes.filePath(name).toStdString() + "\"");
-        mel("select -cl");
-        const std::string skins = melStrings("ls -type skinCluster");
-        const std::string shape =
-            skins.empty() ? ""
-                          : melStrings("skinCluster -q -g " + skins.substr(0, skins.find(' ')));
-        load(shape);
-        if (model_->rowCount() < 4 || model_->columnCount() < 2)
-            continue; // nothing skinned, or skinned without a deformer set
-        takeInfos();
-        takeErrors();
-        on("c0 r2 3:1", "newLockSelected");
-        // By whoever made the scene: the joint, or the whole skin cluster.
-        if (takeInfos() == kJointAlreadyLocked || !takeErrors().empty())
-            continue;
-        const std::string before = locked();
-        saveAndOpen();
-        load(shape);
-        EXPECT_TRUE(locked() == before);
-        EXPECT_NE(before.find('#'), std::string::npos);
-        ++skinCount;
+        const std::string path = scenes.filePath(name).toStdString();
+        mel("file -f -open \"" + path + "\"");
+        std::istringstream skins(melStrings("ls -type skinCluster"));
+        for (std::string skin; skins >> skin;) {
+            SCOPED_TRACE(name.toStdString() + ", " + skin);
+            mel("file -f -open \"" + path + "\"; select -cl");
+            const std::string shape = melStrings("skinCluster -q -g " + skin);
+            load(shape);
+            ASSERT_GT(model_->rowCount(), 3);
+            EXPECT_EQ(melString("file -q -modified"), "0") << "only looked at";
+            selectCells(2, 0, 2, 0);
+            model_->setData(model_->index(2, 0), "+=0.125");
+            takeInfos();
+            takeErrors();
+            on("c0 r2 3:1", "newLockSelected");
+            // By whoever made the scene: the joint, or the whole skin cluster.
+            if (takeInfos() == kJointAlreadyLocked || !takeErrors().empty())
+                continue;
+            const std::string before = locked();
+            const std::string edited = melWeights(shape + ".vtx[1]", skin);
+            saveAndOpen();
+            load(shape);
+            EXPECT_TRUE(locked() == before);
+            EXPECT_NE(before.find('#'), std::string::npos);
+            EXPECT_EQ(melWeights(shape + ".vtx[1]", skin), edited);
+            ++skinCount;
+        }
     }
     EXPECT_GT(skinCount, 0) << "no scene was checked";
+}
+
+// The attributes for locks are added to what is looked at; without a lock they are no change.
+TEST_F(lockFiles, areNotChangedByAnotherWhoLooks)
+{
+    const auto isModified = [] { return melString("file -q -modified") == "1"; };
+    for (const bool hasSet : {true, false}) {
+        makeSkin("body", {"hip", "knee"}, {{1, 0}, {1, 0}, {0, 1}, {0.5, 0.5}});
+        if (!hasSet)
+            removeDeformerSet("body");
+        mel("polyCube -n crate");
+        saveAndOpen();
+        load("body");
+        EXPECT_FALSE(isModified());
+        EXPECT_EQ(melString("objExists bodySkin.lockedVertexIndices"), "1");
+        EXPECT_EQ(melString("undoInfo -q -undoName"), "select -r body");
+        on("r1", "newLockSelected");
+        EXPECT_TRUE(isModified());
+        saveAndOpen();
+        call("setAutoUpdate", true);
+        mel("select -r crate; select -r body");
+        EXPECT_EQ(locked(), ".. ## .. .. ..");
+        EXPECT_FALSE(isModified());
+        call("setAutoUpdate", false);
+
+        mel("deleteAttr bodySkin.lockedJointNames");
+        load("body");
+        EXPECT_TRUE(isModified()) << "it was before";
+        mel("file -f -new; select -cl");
+    }
 }

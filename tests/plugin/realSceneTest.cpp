@@ -27,16 +27,34 @@ std::string lastName(const std::string &path)
     return path.substr(path.rfind('|') + 1);
 }
 
-// The skin clusters that reach a shape through a deformer set, by name.
+// The shape that the geometry of a node ends in, by the file's connections; empty if there is none.
+std::string shapeBehind(const maText &file, std::string node)
+{
+    static const std::regex geometry(
+        R"(([^.]+)\.(?:og|outputGeometry|out|output)(?:\[\d+\])? -> ([^.]+)\.)"
+        R"((i|inMesh|ip|inputPolymesh|ig|(?:ip|input)\[\d+\]\.(?:ig|inputGeometry))(?: .*)?)");
+    std::smatch part;
+    for (auto fact = file.facts.lower_bound(node + '.');
+         fact != file.facts.end() && fact->first.compare(0, node.size() + 1, node + '.') == 0;) {
+        if (!std::regex_match(fact->first, part, geometry)) {
+            ++fact;
+            continue;
+        }
+        node = part[2];
+        if (part[3] == "i" || part[3] == "inMesh")
+            return node;
+        fact = file.facts.lower_bound(node + '.');
+    }
+    return std::string();
+}
+
+// The skin clusters that deform a mesh, by name.
 std::map<std::string, SkinText> skinsOf(const maText &file)
 {
     static const std::regex intoMatrix(
         R"((.+)\.(?:wm|worldMatrix)(?:\[0\])? -> (.+)\.(?:ma|matrix)\[(\d+)\].*)");
-    static const std::regex intoGroup(R"((.+)\.mwc -> (.+)\.iog(?:\[0\])?\.og\[\d+\]\.gco.*)");
-    static const std::regex intoSet(R"((.+)\.msg -> (.+)\.ub\[\d+\].*)");
-    static const std::regex weight(R"((.+) \.wl\[(\d+)\]\.w\[(\d+)\])");
+    static const std::regex weight(R"((.+) \.(?:wl|weightList)\[(\d+)\]\.w\[(\d+)\])");
     std::map<std::string, SkinText> skins;
-    std::map<std::string, std::string> shapeOfSet;
     std::smatch part;
     for (const auto &fact : file.facts) {
         if (std::regex_match(fact.first, part, intoMatrix))
@@ -44,14 +62,9 @@ std::map<std::string, SkinText> skinsOf(const maText &file)
         else if (std::regex_match(fact.first, part, weight))
             skins[part[1]].weights[std::stoi(part[2])][std::stoi(part[3])] =
                 std::strtod(fact.second.c_str(), nullptr);
-        else if (std::regex_match(fact.first, part, intoGroup))
-            shapeOfSet[part[1]] = part[2];
-    }
-    for (const auto &fact : file.facts) {
-        if (std::regex_match(fact.first, part, intoSet) && shapeOfSet.count(part[2]) > 0)
-            skins[part[1]].shape = shapeOfSet[part[2]];
     }
     for (auto skin = skins.begin(); skin != skins.end();) {
+        skin->second.shape = shapeBehind(file, skin->first);
         const auto type = file.facts.find("node " + skin->first);
         const bool isReached = type != file.facts.end() && type->second == "skinCluster" &&
                                !skin->second.shape.empty();
