@@ -19,9 +19,10 @@ bool flag(const MFnBase &functionSet, bool Attribute::*member, MStatus *status)
     return attribute && (*attribute).*member;
 }
 
+// What an attribute is, is settled once a node has it.
 MStatus setFlag(const MFnBase &functionSet, bool Attribute::*member, bool value)
 {
-    const AttributePtr attribute = host::attributeOf(functionSet);
+    const host::NewAttributePtr attribute = host::draftOf(functionSet);
     if (!attribute)
         return MStatus::kFailure;
     (*attribute).*member = value;
@@ -140,12 +141,9 @@ MStatus MFnAttribute::setCached(bool state)
     return setFlag(*this, &Attribute::isCached, state);
 }
 
-// The shape of an attribute is settled once a node has it.
 MStatus MFnAttribute::setArray(bool state)
 {
-    const auto body = host::bodyOf<host::AttributeBody>(*this);
-    return body && body->isFree ? setFlag(*this, &Attribute::isArray, state)
-                                : MStatus(MStatus::kFailure);
+    return setFlag(*this, &Attribute::isArray, state);
 }
 
 MStatus MFnAttribute::setIndexMatters(bool state)

@@ -13,6 +13,7 @@
 
 using host::answer;
 using host::AttributePtr;
+using host::NewAttributePtr;
 
 namespace
 {
@@ -71,7 +72,7 @@ Type typeOf(const TypeName<Type> (&table)[size], const std::string &name)
 
 MStatus setDefaultNumber(const MFnBase &functionSet, double value)
 {
-    const AttributePtr attribute = host::attributeOf(functionSet);
+    const NewAttributePtr attribute = host::draftOf(functionSet);
     if (!attribute)
         return MStatus::kFailure;
     attribute->defaultNumber = value;
@@ -90,7 +91,7 @@ MObject MFnTypedAttribute::create(const MString &fullName, const MString &briefN
     const auto data = host::bodyOf<host::StringBody>(defaultData);
     if (!defaultData.isNull() && !(data && data->string.empty()))
         return answer(ReturnStatus, MStatus::kNotImplemented, MObject());
-    const AttributePtr attribute =
+    const NewAttributePtr attribute =
         host::newAttribute(fullName, briefName, nameOf(kDataTypes, type));
     if (attribute)
         attribute->isDataType = true;
@@ -110,12 +111,12 @@ MObject MFnNumericAttribute::create(const MString &fullName, const MString &brie
                                     MFnNumericData::Type unitType, double defaultValue,
                                     MStatus *ReturnStatus)
 {
-    const AttributePtr attribute =
+    const NewAttributePtr attribute =
         host::newAttribute(fullName, briefName, nameOf(kNumericTypes, unitType));
     if (attribute) {
         attribute->defaultNumber = defaultValue;
-        for (const AttributePtr &child : attribute->children)
-            child->defaultNumber = defaultValue;
+        for (std::size_t i = 0; i < attribute->children.size(); ++i)
+            attribute->newChild(i)->defaultNumber = defaultValue;
     }
     if (attribute && unitType == MFnNumericData::kBoolean) {
         attribute->minimum = 0.0;
@@ -133,7 +134,7 @@ MFnNumericData::Type MFnNumericAttribute::unitType(MStatus *ReturnStatus) const
 
 MStatus MFnNumericAttribute::setMin(double value)
 {
-    const AttributePtr attribute = host::attributeOf(*this);
+    const NewAttributePtr attribute = host::draftOf(*this);
     if (!attribute)
         return MStatus::kFailure;
     attribute->minimum = value;
@@ -142,7 +143,7 @@ MStatus MFnNumericAttribute::setMin(double value)
 
 MStatus MFnNumericAttribute::setMax(double value)
 {
-    const AttributePtr attribute = host::attributeOf(*this);
+    const NewAttributePtr attribute = host::draftOf(*this);
     if (!attribute)
         return MStatus::kFailure;
     attribute->maximum = value;
@@ -177,27 +178,26 @@ MStatus MFnCompoundAttribute::addChild(const MObject &child)
     const auto childBody = host::bodyOf<host::AttributeBody>(child);
     if (!body)
         return MStatus::kFailure;
-    if (!childBody || !childBody->isFree || childBody->attribute->parent ||
+    if (!childBody || !childBody->draft || childBody->attribute->parent ||
         childBody->attribute == body->attribute)
         return MStatus::kInvalidParameter;
-    if (!body->isFree)
+    if (!body->draft)
         return MStatus::kFailure;
-    body->attribute->addChild(childBody->attribute);
+    body->draft->addChild(childBody->draft);
     return MStatus::kSuccess;
 }
 
 MStatus MFnCompoundAttribute::removeChild(const MObject &child)
 {
-    const auto body = host::bodyOf<host::AttributeBody>(*this);
-    const AttributePtr removed = host::attributeOf(child);
-    if (!body || !body->isFree)
+    const NewAttributePtr compound = host::draftOf(*this);
+    if (!compound)
         return MStatus::kFailure;
-    auto &children = body->attribute->children;
-    const auto place = std::find(children.begin(), children.end(), removed);
+    auto &children = compound->children;
+    const auto place = std::find(children.begin(), children.end(), host::attributeOf(child));
     if (place == children.end())
         return MStatus::kInvalidParameter;
+    compound->newChild(std::size_t(place - children.begin()))->parent = nullptr;
     children.erase(place);
-    removed->parent = nullptr;
     return MStatus::kSuccess;
 }
 

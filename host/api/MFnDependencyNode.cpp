@@ -62,8 +62,8 @@ bool isTaken(const NodePtr &node, const host::Attribute &attribute)
 void markDynamic(host::Attribute &attribute)
 {
     attribute.isDynamic = true;
-    for (const AttributePtr &child : attribute.children)
-        markDynamic(*child);
+    for (std::size_t i = 0; i < attribute.children.size(); ++i)
+        markDynamic(*attribute.newChild(i));
 }
 
 } // namespace
@@ -186,7 +186,7 @@ MStatus MFnDependencyNode::addAttribute(const MObject &attr)
     const auto body = host::bodyOf<host::AttributeBody>(attr);
     if (!node)
         return MStatus::kFailure;
-    if (!body || !body->isFree || body->attribute->parent)
+    if (!body || !body->draft || body->attribute->parent)
         return MStatus::kInvalidParameter;
     if (isTaken(node, *body->attribute)) {
         host::showError("Attribute '" + body->attribute->longName + "' already exists on node '" +
@@ -195,11 +195,11 @@ MStatus MFnDependencyNode::addAttribute(const MObject &attr)
     }
     const MStatus status = host::loudly([&] {
         const host::RecordingPause pause(*node->scene());
-        markDynamic(*body->attribute);
-        node->scene()->addAttribute(node, body->attribute);
+        markDynamic(*body->draft);
+        node->scene()->addAttribute(node, body->draft);
     });
     if (status)
-        body->isFree = false;
+        body->draft = nullptr;
     return status;
 }
 

@@ -64,7 +64,14 @@ AttributePtr attributeOf(const MFnBase &functionSet)
     return body ? body->attribute : nullptr;
 }
 
-AttributePtr newAttribute(const MString &longName, const MString &shortName, const char *typeName)
+NewAttributePtr draftOf(const MFnBase &functionSet)
+{
+    const auto body = bodyOf<AttributeBody>(functionSet);
+    return body ? body->draft : nullptr;
+}
+
+NewAttributePtr newAttribute(const MString &longName, const MString &shortName,
+                             const char *typeName)
 {
     if (longName.length() == 0 || !typeName)
         return nullptr;
@@ -72,13 +79,11 @@ AttributePtr newAttribute(const MString &longName, const MString &shortName, con
     return makeAttribute(view(longName), view(brief), typeName);
 }
 
-MObject attachNew(MFnBase &functionSet, const AttributePtr &attribute, MStatus *status)
+MObject attachNew(MFnBase &functionSet, const NewAttributePtr &attribute, MStatus *status)
 {
     if (!attribute)
         return answer(status, MStatus::kInvalidParameter, MObject());
-    auto body = std::make_shared<AttributeBody>(attribute);
-    body->isFree = true;
-    const MObject object = makeObject(body);
+    const MObject object = makeObject(std::make_shared<AttributeBody>(attribute));
     report(status, functionSet.setObject(object));
     return object;
 }

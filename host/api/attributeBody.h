@@ -14,23 +14,30 @@ class AttributeBody : public ObjectBody
 {
 public:
     explicit AttributeBody(AttributePtr attributePtr) : attribute(std::move(attributePtr)) {}
+    // Made by a function set: may be changed until a node has it.
+    explicit AttributeBody(const NewAttributePtr &newAttribute)
+        : attribute(newAttribute), draft(newAttribute)
+    {
+    }
     MFn::Type apiType() const override;
     bool hasFn(MFn::Type type) const override;
     bool sameAs(const ObjectBody &other) const override;
 
     const AttributePtr attribute; // never null
-    // Made by a function set and not yet on a node: one attribute goes to one node only.
-    bool isFree = false;
+    // `attribute` as long as no node has it, then null: one attribute goes to one node only.
+    NewAttributePtr draft;
 };
 
 MObject toObject(const AttributePtr &attribute); // the null object for none
 AttributePtr attributeOf(const MObject &object);
 AttributePtr attributeOf(const MFnBase &functionSet);
+NewAttributePtr draftOf(const MFnBase &functionSet); // null once a node has the attribute
 
 // A new attribute for a function set's create(), with the defaults of Maya's (stored, readable,
 // writable, connectable, cached). Null if the host has no such type or the long name is empty.
-AttributePtr newAttribute(const MString &longName, const MString &shortName, const char *typeName);
+NewAttributePtr newAttribute(const MString &longName, const MString &shortName,
+                             const char *typeName);
 // The object of a new attribute, attached to `functionSet`.
-MObject attachNew(MFnBase &functionSet, const AttributePtr &attribute, MStatus *status);
+MObject attachNew(MFnBase &functionSet, const NewAttributePtr &attribute, MStatus *status);
 
 } // namespace host

@@ -109,24 +109,19 @@ AttributePtr Attribute::child(std::string_view name) const
     return found == children.end() ? nullptr : *found;
 }
 
-AttributePtr Attribute::clone() const
+void Attribute::addChild(const NewAttributePtr &child)
 {
-    auto copy = std::make_shared<Attribute>(*this);
-    copy->parent = nullptr;
-    copy->children.clear();
-    for (const AttributePtr &child : children)
-        copy->addChild(child->clone());
-    return copy;
-}
-
-void Attribute::addChild(const AttributePtr &child)
-{
-    child->parent = this;
     children.push_back(child);
+    child->parent = this;
 }
 
-AttributePtr makeAttribute(std::string_view longName, std::string_view shortName,
-                           std::string_view typeName)
+NewAttributePtr Attribute::newChild(std::size_t place)
+{
+    return std::const_pointer_cast<Attribute>(children[place]);
+}
+
+NewAttributePtr makeAttribute(std::string_view longName, std::string_view shortName,
+                              std::string_view typeName)
 {
     const TypeRow *type = findType(typeName);
     if (!type)

@@ -4,6 +4,9 @@
 // An attribute is a leaf, a compound (with children) or an array (multi) of either. A top-level
 // attribute is shared by all nodes of its type, or belongs to one node when it is dynamic (addAttr)
 // or learned (met in a file on a node whose type does not declare it).
+//
+// Whoever makes an attribute may fill it in; once a type or a node has it, all see it as const.
+// What it is changes only when its node learns more about it (Scene::learn).
 #pragma once
 
 #include <memory>
@@ -31,8 +34,17 @@ enum class AttributeKind {
     learned     // met in a file: neither type nor shape is known beforehand
 };
 
+// What turns out about a learned attribute by the way it is named or filled.
+enum class LearnedShape {
+    array,
+    unorderedArray, // its elements are connected with connectAttr -nextAvailable
+    numbers         // an array of numbers; REQUIRES: nothing is stored in it
+};
+
 class Attribute;
-using AttributePtr = std::shared_ptr<Attribute>;
+using AttributePtr = std::shared_ptr<const Attribute>;
+// Still being declared: no node and no type has it.
+using NewAttributePtr = std::shared_ptr<Attribute>;
 
 class Attribute
 {
@@ -69,7 +81,7 @@ public:
     std::string otherFlags;
 
     std::vector<AttributePtr> children; // of a compound, in order
-    Attribute *parent = nullptr;        // the compound that owns this one; null at top level
+    const Attribute *parent = nullptr;  // the compound that owns this one; null at top level
     // Place in the order in which a node lists its attributes, unique on a node.
     unsigned order = 0;
 
@@ -88,10 +100,10 @@ public:
     AttributePtr child(std::string_view name) const;
     bool hasName(std::string_view name) const { return name == longName || name == shortName; }
 
-    // A copy with copies of all children; it has no parent.
-    AttributePtr clone() const;
     // Takes `child` as the last child.
-    void addChild(const AttributePtr &child);
+    void addChild(const NewAttributePtr &child);
+    // A child of an attribute that is still being declared, to fill it in.
+    NewAttributePtr newChild(std::size_t place);
 };
 
 // How deep arrays and compounds may nest. Maya's own stay below; files that go deeper are refused.
@@ -100,7 +112,7 @@ constexpr unsigned kMaxAttributeDepth = 8;
 // A new attribute of the type that addAttr calls `typeName` ("bool", "double3", "stringArray",
 // "compound", ...; -at and -dt share the names). Tuples get their children, named NAME0 or, for
 // three, NAMEX NAMEY NAMEZ. Null for a name that is no type.
-AttributePtr makeAttribute(std::string_view longName, std::string_view shortName,
-                           std::string_view typeName);
+NewAttributePtr makeAttribute(std::string_view longName, std::string_view shortName,
+                              std::string_view typeName);
 
 } // namespace host

@@ -47,23 +47,6 @@ AttributePtr Node::findAttribute(std::string_view name) const
     return own == ownByName_.end() ? nullptr : own->second;
 }
 
-AttributePtr Node::learnAttribute(const AttributePtr &above, std::string_view name)
-{
-    auto attribute = std::make_shared<Attribute>();
-    attribute->longName = name;
-    attribute->shortName = name;
-    attribute->kind = AttributeKind::learned;
-    attribute->typeName.clear();
-    attribute->order = nextAttributeOrder_++;
-    if (above) {
-        above->addChild(attribute);
-    } else {
-        ownAttributes_.push_back(attribute);
-        ownByName_.emplace(attribute->longName, attribute);
-    }
-    return attribute;
-}
-
 Plug Node::plug(std::string_view attributeName) const
 {
     return Plug(std::const_pointer_cast<Node>(shared_from_this()), findAttribute(attributeName));

@@ -59,9 +59,6 @@ public:
     const std::vector<AttributePtr> &ownAttributes() const { return ownAttributes_; }
     // By long or short name, children too; null if there is none.
     AttributePtr findAttribute(std::string_view name) const;
-    // A new attribute of unknown shape below `above` (null: at the top), for a name met in a file.
-    // REQUIRES: the name is not taken there; `above` is learned itself.
-    AttributePtr learnAttribute(const AttributePtr &above, std::string_view name);
     // REQUIRES: findAttribute(name).
     Plug plug(std::string_view attributeName) const;
 

@@ -37,18 +37,19 @@ void applyOption(Attribute &attribute, const std::string &option)
     } else if (key == "names") {
         std::istringstream names(text);
         std::string name;
-        for (const AttributePtr &child : attribute.children) {
+        for (std::size_t i = 0; i < attribute.children.size(); ++i) {
             std::getline(names, name, ',');
             const std::size_t slash = name.find('/');
+            const NewAttributePtr child = attribute.newChild(i);
             child->longName = name.substr(0, slash);
             child->shortName = name.substr(slash + 1);
         }
     }
     // What holds for a tuple holds for each of its numbers.
-    for (const AttributePtr &child : attribute.children) {
-        if (key != "names" && key != "instance" && attribute.isTuple())
-            applyOption(*child, option);
-    }
+    if (key == "names" || key == "instance" || !attribute.isTuple())
+        return;
+    for (std::size_t i = 0; i < attribute.children.size(); ++i)
+        applyOption(*attribute.newChild(i), option);
 }
 
 // Options may hold blanks inside enum names: "enum=Closest distance:Heat map".
@@ -68,7 +69,7 @@ std::vector<std::string> splitOptions(std::istringstream &words)
     return options;
 }
 
-AttributePtr parseAttribute(const std::string &line, bool &opensChildren)
+NewAttributePtr parseAttribute(const std::string &line, bool &opensChildren)
 {
     std::istringstream words(line);
     std::string longName;
@@ -78,7 +79,7 @@ AttributePtr parseAttribute(const std::string &line, bool &opensChildren)
     const bool isArray = typeName.size() > 2 && typeName.compare(typeName.size() - 2, 2, "[]") == 0;
     if (isArray)
         typeName.resize(typeName.size() - 2);
-    AttributePtr attribute = makeAttribute(longName, shortName, typeName);
+    NewAttributePtr attribute = makeAttribute(longName, shortName, typeName);
     assert(attribute && "the node type table names an unknown type");
     attribute->isArray = isArray;
     opensChildren = false;
@@ -91,11 +92,11 @@ AttributePtr parseAttribute(const std::string &line, bool &opensChildren)
     return attribute;
 }
 
-unsigned numberInOrder(const AttributePtr &attribute, unsigned next)
+unsigned numberInOrder(Attribute &attribute, unsigned next)
 {
-    attribute->order = next++;
-    for (const AttributePtr &child : attribute->children)
-        next = numberInOrder(child, next);
+    attribute.order = next++;
+    for (std::size_t i = 0; i < attribute.children.size(); ++i)
+        next = numberInOrder(*attribute.newChild(i), next);
     return next;
 }
 
@@ -130,7 +131,7 @@ NodeTypes::NodeTypes()
     std::istringstream lines(kNodeTypeTable);
     std::string line;
     NodeType *type = nullptr;
-    std::vector<AttributePtr> open; // compounds whose children are being read
+    std::vector<NewAttributePtr> open; // compounds whose children are being read
     while (std::getline(lines, line)) {
         std::istringstream words(line);
         std::string first;
@@ -145,16 +146,16 @@ NodeTypes::NodeTypes()
             continue;
         }
         if (first == "}") {
-            const AttributePtr closed = open.back();
+            const NewAttributePtr closed = open.back();
             open.pop_back();
             if (open.empty()) {
-                type->orderEnd = numberInOrder(closed, type->orderEnd);
+                type->orderEnd = numberInOrder(*closed, type->orderEnd);
                 enterNames(closed, type->byName_);
             }
             continue;
         }
         bool opensChildren = false;
-        const AttributePtr attribute = parseAttribute(line, opensChildren);
+        const NewAttributePtr attribute = parseAttribute(line, opensChildren);
         if (open.empty())
             type->attributes.push_back(attribute);
         else
@@ -162,7 +163,7 @@ NodeTypes::NodeTypes()
         if (opensChildren) {
             open.push_back(attribute);
         } else if (open.empty()) {
-            type->orderEnd = numberInOrder(attribute, type->orderEnd);
+            type->orderEnd = numberInOrder(*attribute, type->orderEnd);
             enterNames(attribute, type->byName_);
         }
     }

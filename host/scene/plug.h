@@ -90,12 +90,19 @@ struct PlugRange {
     Plug at(unsigned offset) const; // REQUIRES: offset < count()
 };
 
-// What to do with an attribute that the node does not have.
-enum class UnknownAttribute { refuse, learn };
+// What to do with a name that says more than is known: an attribute that the node does not have, an
+// index on a learned attribute that is no array so far.
+enum class UnknownAttribute {
+    refuse,     // for questions: nothing changes
+    learnShape, // attributes are refused, and indices where the attribute holds anything as no
+                // array
+    learn       // for files, which know better
+};
 
 // Finds "attr[3].child[0:7]" (long or short names, without node and dot) on `node`. A per-instance
 // array that is followed by a child gets index 0 when the path leaves it out. Throws Error on a
-// syntax error, nesting beyond kMaxAttributeDepth, and, with refuse, "No object matches name: ...".
+// syntax error, nesting beyond kMaxAttributeDepth, and, as `unknown` says, "No object matches
+// name".
 PlugRange resolvePlugPath(const NodePtr &node, std::string_view path, UnknownAttribute unknown);
 
 } // namespace host

@@ -34,6 +34,9 @@ std::size_t placeAmongSiblings(const Attribute &attribute);
 // The shared pointer to an attribute of a node, found through its parents.
 AttributePtr ownerOf(const Node &node, const Attribute &attribute);
 
+// Whether a node has data or connections at an attribute or below, in any element above it.
+bool holdsAnything(const Node &node, const Attribute &attribute);
+
 // Where a number of a packed array lies. `array` is a null plug when the plug is no such number.
 struct PackedPlace {
     Plug array;

@@ -3,8 +3,8 @@
 #include <charconv>
 
 #include "scene/error.h"
-#include "scene/node.h"
-#include "scene/plug.h"
+#include "scene/plugAccess.h"
+#include "scene/scene.h"
 
 namespace host
 {
@@ -51,16 +51,30 @@ bool takeStep(std::string_view &path, PathStep &step)
 }
 
 // The attribute that the step names below `above` (null: at the top), learned if need be.
-AttributePtr attributeOf(Node &node, const AttributePtr &above, const PathStep &step,
+AttributePtr attributeOf(const NodePtr &node, const AttributePtr &above, const PathStep &step,
                          std::string_view path, UnknownAttribute unknown)
 {
-    AttributePtr found = above ? above->child(step.name) : node.findAttribute(step.name);
+    AttributePtr found = above ? above->child(step.name) : node->findAttribute(step.name);
     if (found)
         return found;
     const bool mayLearn = unknown == UnknownAttribute::learn && (!above || above->isLearned());
     if (!mayLearn)
-        refuse(node, path);
-    return node.learnAttribute(above, step.name);
+        refuse(*node, path);
+    return node->scene()->learnAttribute(node, above, step.name, step.first != kNoIndex);
+}
+
+// The path has an index on the attribute.
+void requireArray(const NodePtr &node, const AttributePtr &attribute, std::string_view path,
+                  UnknownAttribute unknown)
+{
+    if (attribute->isArray)
+        return;
+    const bool mayLearn =
+        unknown == UnknownAttribute::learn ||
+        (unknown == UnknownAttribute::learnShape && !holdsAnything(*node, *attribute));
+    if (!attribute->isLearned() || !mayLearn)
+        refuse(*node, path);
+    node->scene()->learn(node, attribute, LearnedShape::array);
 }
 
 } // namespace
@@ -76,15 +90,12 @@ PlugRange resolvePlugPath(const NodePtr &node, std::string_view path, UnknownAtt
         if (!takeStep(rest, step))
             refuse(*node, path);
         const bool isFirst = attribute == nullptr;
-        attribute = attributeOf(*node, attribute, step, path, unknown);
+        attribute = attributeOf(node, attribute, step, path, unknown);
         const unsigned depth = attribute->depth();
         if (depth > kMaxAttributeDepth || (!isFirst && depth == kMaxAttributeDepth))
             throw Error("Attributes nest too deeply: " + std::string(path).substr(0, 80));
         if (step.first != kNoIndex) {
-            if (attribute->isLearned())
-                attribute->isArray = true;
-            if (!attribute->isArray)
-                refuse(*node, path);
+            requireArray(node, attribute, path, unknown);
             indices[depth - 1] = step.first;
             if (step.last != step.first) {
                 if (range.rangeDepth >= 0)

@@ -93,9 +93,16 @@ public:
 
     // --- Attributes and values ----------------------------------------------------------------
     // A dynamic attribute, with its children. Refused: a name that is taken, a locked node.
-    void addAttribute(const NodePtr &node, const AttributePtr &attribute);
+    void addAttribute(const NodePtr &node, const NewAttributePtr &attribute);
     // With its values, connections and states.
     void removeAttribute(const NodePtr &node, const AttributePtr &attribute);
+    // An attribute of unknown shape below `above` (null: at the top), for a name met in a file.
+    // REQUIRES: the name is not taken there; `above` is learned itself.
+    AttributePtr learnAttribute(const NodePtr &node, const AttributePtr &above,
+                                std::string_view name, bool isArray);
+    // Gives a learned attribute its shape. What it held as no array, data, states and connections,
+    // becomes that of element 0. REQUIRES: the attribute is learned.
+    void learn(const NodePtr &node, const AttributePtr &attribute, LearnedShape shape);
     // Sets a complete leaf plug. Checks nothing but the shape: locks and ranges are the caller's,
     // see isSettable(). Integers and floats are rounded to their kind.
     void setValue(const Plug &plug, Value value);

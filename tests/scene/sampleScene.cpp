@@ -29,10 +29,10 @@ void addJoints(Scene &scene)
     const NodePtr foot = scene.createNode("joint", "foot", knee);
     scene.connect(hip->plug("scale"), knee->plug("inverseScale"));
     scene.setNodeLock(foot, true, false);
-    const AttributePtr note = makeAttribute("note", "nt", "string");
-    const AttributePtr colour = makeAttribute("colour", "cl", "float3");
-    const AttributePtr gain = makeAttribute("gain", "ga", "double");
-    for (const AttributePtr &attribute : {note, colour, gain})
+    const NewAttributePtr note = makeAttribute("note", "nt", "string");
+    const NewAttributePtr colour = makeAttribute("colour", "cl", "float3");
+    const NewAttributePtr gain = makeAttribute("gain", "ga", "double");
+    for (const NewAttributePtr &attribute : {note, colour, gain})
         attribute->isDynamic = true;
     colour->isArray = true;
     scene.addAttribute(hip, note);

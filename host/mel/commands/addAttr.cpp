@@ -106,12 +106,12 @@ void refuseIllegalName(const std::string &name)
         throw Error("addAttr: '" + name + "' is no legal name of an attribute.");
 }
 
-AttributePtr declare(const Arguments &arguments)
+NewAttributePtr declare(const Arguments &arguments)
 {
     const std::string shortName = arguments.string("shortName");
     const std::string longName = arguments.string("longName", shortName);
     refuseIllegalName(longName);
-    const AttributePtr attribute =
+    const NewAttributePtr attribute =
         makeAttribute(longName, shortName.empty() ? longName : shortName, typeNameOf(arguments));
     if (!attribute)
         throw Error("addAttr: Type specified for new attribute is unknown.");
@@ -136,7 +136,7 @@ AttributePtr declare(const Arguments &arguments)
 
 // How many calls are to follow for the children. Tuples that are declared with -at come with their
 // children named by the caller; with -dt they are one piece of data.
-unsigned childCountOf(const Context &context, const AttributePtr &attribute,
+unsigned childCountOf(const Context &context, const NewAttributePtr &attribute,
                       const Arguments &arguments)
 {
     if (!attribute->isCompound() || attribute->isDataType)
@@ -161,9 +161,9 @@ bool isThereAlready(const Node &node, const Attribute &attribute)
 void addTo(Context &context, PendingAttributes &pending, const NodePtr &node,
            const Arguments &arguments)
 {
-    const AttributePtr attribute = declare(arguments);
+    const NewAttributePtr attribute = declare(arguments);
     const unsigned childCount = childCountOf(context, attribute, arguments);
-    AttributePtr parent;
+    NewAttributePtr parent;
     if (arguments.has("parent")) {
         parent = pending.find(node, arguments.string("parent"));
         if (!parent && context.isReadingFile && isThereAlready(*node, *attribute))
@@ -176,7 +176,7 @@ void addTo(Context &context, PendingAttributes &pending, const NodePtr &node,
     } else if (node->findAttribute(attribute->longName)) {
         throw Error("addAttr: Found an attribute named '" + attribute->longName + "' already.");
     }
-    if (const AttributePtr complete = pending.add(node, parent, attribute, childCount))
+    if (const NewAttributePtr complete = pending.add(node, parent, attribute, childCount))
         context.scene().addAttribute(node, complete);
 }
 

@@ -143,7 +143,7 @@ std::string resolveAlias(const Node &node, std::string_view alias)
 void setAliases(Scene &scene, const NodePtr &node, const AliasList &aliases)
 {
     if (!node->findAttribute(kAttribute)) {
-        const AttributePtr attribute = makeAttribute(kAttribute, "aal", "attributeAlias");
+        const NewAttributePtr attribute = makeAttribute(kAttribute, "aal", "attributeAlias");
         attribute->isDynamic = attribute->isDataType = true;
         scene.addAttribute(node, attribute);
     }

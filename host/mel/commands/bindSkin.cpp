@@ -28,7 +28,7 @@ void refuseShape(const DagPath &shape)
 Plug lockPlug(Scene &scene, const NodePtr &influence)
 {
     if (!influence->findAttribute("lockInfluenceWeights")) {
-        const AttributePtr lock = makeAttribute("lockInfluenceWeights", "liw", "bool");
+        const NewAttributePtr lock = makeAttribute("lockInfluenceWeights", "liw", "bool");
         lock->isDynamic = true;
         lock->minimum = 0.0;
         lock->maximum = 1.0;

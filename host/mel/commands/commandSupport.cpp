@@ -7,6 +7,7 @@
 
 #include "mel/commands/attributeAlias.h"
 #include "scene/error.h"
+#include "scene/plugAccess.h"
 
 namespace host::mel
 {
@@ -104,15 +105,39 @@ PlugName splitPlugName(std::string_view name)
     return {name.substr(0, dot), name.substr(dot + 1)};
 }
 
-PlugRange requirePlug(Context &context, std::string_view name)
+namespace
+{
+
+PlugRange requirePlug(Context &context, std::string_view name, UnknownAttribute unknown)
 {
     const PlugName parts = splitPlugName(name);
     const bool isRelative = parts.node.empty();
     if (parts.attribute.empty() || (isRelative && !(context.currentNode && *context.currentNode)))
         throwNoSuchObject(std::string(name));
     const NodePtr node = isRelative ? *context.currentNode : requireNode(context, parts.node);
-    return resolve(context, node, parts,
-                   context.isReadingFile ? UnknownAttribute::learn : UnknownAttribute::refuse);
+    return resolve(context, node, parts, context.isReadingFile ? UnknownAttribute::learn : unknown);
+}
+
+} // namespace
+
+PlugRange requirePlug(Context &context, std::string_view name)
+{
+    return requirePlug(context, name, UnknownAttribute::refuse);
+}
+
+PlugRange requirePlugToWrite(Context &context, std::string_view name)
+{
+    return requirePlug(context, name, UnknownAttribute::learnShape);
+}
+
+void learnShape(Context &context, const Plug &plug, LearnedShape shape)
+{
+    const Attribute &attribute = *plug.attribute;
+    if (!attribute.isLearned())
+        return;
+    if (!attribute.isArray && !context.isReadingFile && holdsAnything(*plug.node, attribute))
+        throw Error("'" + plug.name() + "' is not a multi.");
+    context.scene().learn(plug.node, plug.attribute, shape);
 }
 
 Plug requireSinglePlug(Context &context, std::string_view name)

@@ -28,6 +28,12 @@ NodePtr requireNodeOfType(Context &context, std::string_view name, std::string_v
 // that the node does not have are learned. A per-instance array without an index stands for the
 // element of the instance that the name's path selects where a child follows it.
 PlugRange requirePlug(Context &context, std::string_view name);
+// The same for a command that sets the plug: an index tells that a learned attribute that holds
+// nothing is an array.
+PlugRange requirePlugToWrite(Context &context, std::string_view name);
+// Takes in what the way in which a plug is named or filled tells of its attribute, if that is a
+// learned one. Refuses to make an array of what holds anything as none, unless a file says so.
+void learnShape(Context &context, const Plug &plug, LearnedShape shape);
 // The plug that a connection to or from `name` means: one plug, and of an array with one element
 // per instance the element of the instance that the name selects ("|a|aShape.iog").
 Plug requireConnectionEnd(Context &context, std::string_view name);

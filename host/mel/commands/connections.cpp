@@ -62,11 +62,9 @@ Plug destinationOf(Context &context, const Arguments &arguments)
 {
     const Plug plug = requireConnectionEnd(context, arguments.objects[1].text);
     const bool takesNext = arguments.has("nextAvailable") || context.isReadingFile;
-    if (arguments.has("nextAvailable") && plug.attribute->isLearned()) {
-        // The flag tells what the attribute is; it is written with the flag again.
-        plug.attribute->isArray = true;
-        plug.attribute->indexMatters = false;
-    }
+    // The flag tells what the attribute is; it is written with the flag again.
+    if (arguments.has("nextAvailable"))
+        learnShape(context, plug, LearnedShape::unorderedArray);
     if (!takesNext || !plug.isWholeArray())
         return plug;
     return plug.element(context.scene().nextAvailable(plug));

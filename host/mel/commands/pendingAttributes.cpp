@@ -11,12 +11,12 @@ namespace host::mel
 namespace
 {
 
-AttributePtr findCompound(const AttributePtr &attribute, std::string_view name)
+NewAttributePtr findCompound(const NewAttributePtr &attribute, std::string_view name)
 {
     if (attribute->isCompound() && attribute->hasName(name))
         return attribute;
-    for (const AttributePtr &child : attribute->children) {
-        if (AttributePtr found = findCompound(child, name))
+    for (std::size_t i = 0; i < attribute->children.size(); ++i) {
+        if (NewAttributePtr found = findCompound(attribute->newChild(i), name))
             return found;
     }
     return nullptr;
@@ -32,8 +32,8 @@ const Attribute *rootOf(const Attribute &attribute)
 
 } // namespace
 
-AttributePtr PendingAttributes::add(const NodePtr &node, const AttributePtr &parent,
-                                    const AttributePtr &attribute, unsigned childCount)
+NewAttributePtr PendingAttributes::add(const NodePtr &node, const NewAttributePtr &parent,
+                                       const NewAttributePtr &attribute, unsigned childCount)
 {
     if (!parent) {
         if (childCount == 0)
@@ -53,18 +53,18 @@ AttributePtr PendingAttributes::add(const NodePtr &node, const AttributePtr &par
         if (compound->children.size() < count)
             return nullptr;
     }
-    AttributePtr complete = tree->root;
+    NewAttributePtr complete = tree->root;
     trees_.erase(trees_.begin() + (tree - trees_.data()));
     return complete;
 }
 
-AttributePtr PendingAttributes::find(const NodePtr &node, std::string_view name) const
+NewAttributePtr PendingAttributes::find(const NodePtr &node, std::string_view name) const
 {
     // The newest first: a name may have been declared again after a mistake.
     for (auto tree = trees_.rbegin(); tree != trees_.rend(); ++tree) {
         if (tree->node.lock() != node)
             continue;
-        if (AttributePtr found = findCompound(tree->root, name))
+        if (NewAttributePtr found = findCompound(tree->root, name))
             return found;
     }
     return nullptr;

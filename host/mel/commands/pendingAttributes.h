@@ -20,17 +20,17 @@ public:
     // Takes in an attribute that waits for `childCount` children (0 for a leaf) below the pending
     // compound `parent`, or at the top of `node` if that is null. Returns the top-level attribute
     // that this completed; it is no longer pending then. Null if something is still missing.
-    AttributePtr add(const NodePtr &node, const AttributePtr &parent, const AttributePtr &attribute,
-                     unsigned childCount);
+    NewAttributePtr add(const NodePtr &node, const NewAttributePtr &parent,
+                        const NewAttributePtr &attribute, unsigned childCount);
     // The pending compound of that long or short name; null if there is none.
-    AttributePtr find(const NodePtr &node, std::string_view name) const;
+    NewAttributePtr find(const NodePtr &node, std::string_view name) const;
     // Drops what waits on nodes that are gone.
     void dropDeleted();
 
 private:
     struct Tree {
         std::weak_ptr<Node> node;
-        AttributePtr root;
+        NewAttributePtr root;
         std::map<const Attribute *, unsigned> childCounts; // of the compounds, when complete
     };
     Tree *treeOf(const NodePtr &node, const Attribute &member);

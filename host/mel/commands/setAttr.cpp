@@ -123,16 +123,15 @@ void writeStates(Scene &scene, const PlugRange &range, const Arguments &argument
 }
 
 // Sizes are hints; they tell no more than that something unknown is an array.
-void takeSizes(const Context &context, const PlugRange &range, const Arguments &arguments)
+void takeSizes(Context &context, const PlugRange &range, const Arguments &arguments)
 {
     for (const char *flag : {"size", "capacityHint"}) {
         if (arguments.has(flag))
             requireCount(context, arguments.of(flag).front().text);
     }
     const bool hasValues = arguments.objects.size() > 1;
-    Attribute &attribute = *range.plug.attribute;
-    if (arguments.has("size") && attribute.isLearned() && !hasValues)
-        attribute.isArray = true;
+    if (arguments.has("size") && !hasValues)
+        learnShape(context, range.plug, LearnedShape::array);
 }
 
 // Values of a node that the file itself made come and go with the node: an undo of the import need
@@ -147,7 +146,7 @@ MelValue setAttr(Context &context, const Arguments &arguments)
     if (arguments.objects.empty())
         throw Error("setAttr: No attribute was specified.");
     const std::string_view name = arguments.objects.front().text;
-    const PlugRange range = requirePlug(context, name);
+    const PlugRange range = requirePlugToWrite(context, name);
     const std::string type = arguments.string("type");
     takeSizes(context, range, arguments);
     if (!arguments.boolean("lock", true))

@@ -127,16 +127,14 @@ bool looksLikePairs(const PlugRange &range, ValueTokens tokens)
 
 // ".wl[0:2].w" of a deformer that the host does not know: the form tells that w is an array of
 // numbers, and from then on it is kept as one.
-bool learnsArrayOfNumbers(const PlugRange &range, const ValueTokens &tokens)
+bool learnsArrayOfNumbers(Scene &scene, const PlugRange &range, const ValueTokens &tokens)
 {
-    Attribute &attribute = *range.plug.attribute;
+    const Attribute &attribute = *range.plug.attribute;
     const bool runsAbove = range.rangeDepth >= 0 && range.rangeDepth < int(attribute.depth()) - 1;
     if (!runsAbove || range.plug.isElement() || range.plug.node->datum(range.plug) ||
         !attribute.children.empty() || !looksLikePairs(range, tokens))
         return false;
-    attribute.kind = AttributeKind::real;
-    attribute.typeName = "double";
-    attribute.isArray = true;
+    scene.learn(range.plug.node, range.plug.attribute, LearnedShape::numbers);
     return true;
 }
 
@@ -182,7 +180,7 @@ void writeLearned(Scene &scene, const PlugRange &range, std::string_view type, V
                              {std::string(type), tokens.rest()});
         return;
     }
-    if (learnsArrayOfNumbers(range, tokens)) {
+    if (learnsArrayOfNumbers(scene, range, tokens)) {
         writePairs(scene, range, tokens);
         return;
     }
