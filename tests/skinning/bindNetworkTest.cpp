@@ -2,6 +2,7 @@
 #include <maya/MGlobal.h>
 #include <maya/MStringArray.h>
 
+#include "support/componentTags.h"
 #include "support/sceneFile.h"
 
 namespace
@@ -114,6 +115,23 @@ TEST_F(bindNetwork, comesAndGoesWithUndoAndUnbind)
         EXPECT_EQ(inputs("bodyShape"), *history ? "" : "polyCube1.output -> bodyShape.inMesh\n");
         mel("undo");
         EXPECT_EQ(savedText(), bound);
+    }
+}
+
+// As scenes of today come: neither a set nor a tweak.
+TEST_F(bindNetwork, isTakenApartWithoutADeformerSet)
+{
+    for (const char *history : {"", " -ch 0"}) {
+        SCOPED_TRACE(history);
+        mel("file -f -new");
+        makeBodyAndJoints(history);
+        mel("skinCluster -tsb -n bodySkin hip knee body");
+        removeDeformerSet("body");
+        mel("delete tweak1 tweakSet1 groupId2 groupParts2; skinCluster -e -ub bodySkin");
+        EXPECT_EQ(melStrings("ls -type mesh"), "bodyShape");
+        EXPECT_EQ(inputs("bodyShape"), *history ? "" : "polyCube1.output -> bodyShape.inMesh\n");
+        mel("skinCluster -tsb hip knee body");
+        EXPECT_EQ(melStrings("ls -type mesh"), "bodyShape bodyShapeOrig");
     }
 }
 

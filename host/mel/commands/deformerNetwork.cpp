@@ -181,7 +181,7 @@ void deleteDeformer(Scene &scene, const Deformer &deformer)
         scene.removeElement(group);
 }
 
-// Takes a tweak out that nothing follows any more, and the intermediate shape before it.
+// Takes a tweak out that nothing follows any more, if an intermediate shape feeds it.
 void removeTweak(Scene &scene, const NodePtr &tweak, const NodePtr &mesh)
 {
     const Deformer nodes = findDeformer(tweak);
@@ -189,9 +189,24 @@ void removeTweak(Scene &scene, const NodePtr &tweak, const NodePtr &mesh)
     if (before.isNull() || !before.node->isA("mesh") || !before.node->isIntermediate())
         return;
     deleteDeformer(scene, nodes);
-    handOver(scene, before.node, mesh);
-    if (before.node->allDestinations().empty())
-        scene.deleteNode(before.node);
+    scene.connect(before, mesh->plug("inMesh"));
+}
+
+// A mesh that nothing deforms any more stores its geometry itself: the intermediate shape beside
+// it, which fed the first deformer, gives it back and goes, unless it feeds something else.
+void takeGeometryBack(Scene &scene, const NodePtr &mesh)
+{
+    const Connection *source = mesh->source(mesh->plug("inMesh"));
+    if (!source || !source->node->isA("mesh") || !source->node->isIntermediate() ||
+        source->node->parents() != mesh->parents())
+        return;
+    const auto &outputs = source->node->allDestinations();
+    if (outputs.size() != 1 || outputs.begin()->second.size() != 1)
+        return;
+    const NodePtr original = source->node->shared_from_this();
+    scene.disconnect(source->plug(), mesh->plug("inMesh"));
+    handOver(scene, original, mesh);
+    scene.deleteNode(original);
 }
 
 } // namespace
@@ -231,6 +246,8 @@ void detachDeformer(Scene &scene, const NodePtr &deformer)
     const Connection *last = mesh ? mesh->source(mesh->plug("inMesh")) : nullptr;
     if (last && last->node->isA("tweak"))
         removeTweak(scene, last->node->shared_from_this(), mesh);
+    if (mesh)
+        takeGeometryBack(scene, mesh);
 }
 
 } // namespace host::mel
