@@ -150,8 +150,10 @@ std::vector<NodePtr> shapesFedBy(const Plug &output)
     for (std::size_t i = 0; i < outputs.size() && i < kMaxHistoryLength; ++i) {
         for (const Connection &connection : outputs[i].node->destinations(outputs[i])) {
             const Plug input = connection.plug();
-            if (input == shapeInput(*input.node))
+            if (input == shapeInput(*input.node)) {
                 appendNew(input.node, shapes);
+                continue;
+            }
             for (const Plug &next : outputsMadeFrom(input))
                 appendNew(next, outputs);
         }
