@@ -73,7 +73,7 @@ protected:
     }
 };
 
-// All but weights below 0, which Maya does not take; files hold some, of less than 1e-30.
+// All but weights below 0, which Maya does not take; files hold some, of less than 1e-11.
 TEST_F(realScenes, areSmoothedAndComeBack)
 {
     if (qEnvironmentVariableIsEmpty("KORVEX_SCENES"))
@@ -96,7 +96,7 @@ TEST_F(realScenes, areSmoothedAndComeBack)
         for (std::size_t v = 0; v < before.size(); ++v) {
             changed += distance(before[v], smoothed[v]) > 0.01;
             ASSERT_NEAR(sum(smoothed[v]), sum(before[v]), 1e-12) << v;
-            ASSERT_LT(distance(before[v], undone[v]), 1e-12) << v;
+            ASSERT_LT(distance(before[v], undone[v]), 1e-11) << v;
         }
     }
     EXPECT_GT(changed, 0);
