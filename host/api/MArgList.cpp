@@ -15,10 +15,10 @@ namespace
 template <class Value>
 MStatus getArgument(const MArgList &list, unsigned int index, Value &value)
 {
-    const std::vector<ArgumentValue> &values = host::valuesOf(list);
+    const std::vector<ArgumentValue> &values = host::valuesOf(list).list;
     if (index >= values.size())
         return MStatus::kInvalidParameter;
-    return host::convert(values[index], value) ? MStatus::kSuccess : MStatus::kFailure;
+    return host::convert(values[index].text, value) ? MStatus::kSuccess : MStatus::kFailure;
 }
 
 template <class Value>
@@ -39,11 +39,11 @@ void addTo(std::shared_ptr<ArgumentValues> &values, ArgumentValue value)
 
 } // namespace
 
-const std::vector<ArgumentValue> &host::valuesOf(const MArgList &list)
+const ArgumentValues &host::valuesOf(const MArgList &list)
 {
-    static const std::vector<ArgumentValue> kNone;
+    static const ArgumentValues kNone;
     const auto &values = ApiAccess::values(list);
-    return values ? values->list : kNone;
+    return values ? *values : kNone;
 }
 
 const unsigned int MArgList::kInvalidArgIndex = ~0u;
@@ -60,7 +60,7 @@ const char *MArgList::className()
 unsigned int MArgList::length(MStatus *ReturnStatus) const
 {
     host::report(ReturnStatus);
-    return static_cast<unsigned int>(host::valuesOf(*this).size());
+    return static_cast<unsigned int>(host::valuesOf(*this).list.size());
 }
 
 bool MArgList::asBool(unsigned int index, MStatus *ret) const
@@ -87,7 +87,7 @@ unsigned int MArgList::flagIndex(const char *shortFlag, const char *longFlag) co
             return false;
         return text == flag || text.compare(1, std::string::npos, flag) == 0;
     };
-    const std::vector<ArgumentValue> &values = host::valuesOf(*this);
+    const std::vector<ArgumentValue> &values = host::valuesOf(*this).list;
     for (std::size_t i = 0; i < values.size(); ++i)
         if (isFlag(values[i].text, shortFlag) || isFlag(values[i].text, longFlag))
             return static_cast<unsigned int>(i);

@@ -13,7 +13,6 @@
 #include "api/status.h"
 #include "api/text.h"
 
-using host::ArgumentValue;
 using host::ParsedArguments;
 
 namespace
@@ -27,10 +26,10 @@ MStatus getFlag(const Parsed &parsed, const char *flag, unsigned int index, Valu
 {
     if (!parsed)
         return MStatus::kFailure;
-    const auto *uses = parsed->uses(flag ? flag : "");
-    if (!uses || index >= uses->front().size())
+    const host::mel::Operand *operand = parsed->argument(flag ? flag : "", index);
+    if (!operand)
         return MStatus::kInvalidParameter;
-    return host::convert(uses->front()[index], result) ? MStatus::kSuccess : MStatus::kFailure;
+    return host::convert(operand->text, result) ? MStatus::kSuccess : MStatus::kFailure;
 }
 
 template <class Value>
@@ -88,19 +87,19 @@ bool MArgParser::isFlagSet(const char *flag, MStatus *ReturnStatus) const
     const std::string name = flag ? flag : "";
     const bool isKnown = parsed_ && parsed_->knows(name);
     host::report(ReturnStatus, isKnown ? MStatus::kSuccess : MStatus::kInvalidParameter);
-    return isKnown && parsed_->uses(name);
+    return isKnown && parsed_->uses(name) > 0;
 }
 
 bool MArgParser::isEdit(MStatus *ReturnStatus) const
 {
     host::report(ReturnStatus, parsed_ ? MStatus::kSuccess : MStatus::kFailure);
-    return parsed_ && parsed_->isEdit;
+    return parsed_ && parsed_->isEdit();
 }
 
 bool MArgParser::isQuery(MStatus *ReturnStatus) const
 {
     host::report(ReturnStatus, parsed_ ? MStatus::kSuccess : MStatus::kFailure);
-    return parsed_ && parsed_->isQuery;
+    return parsed_ && parsed_->isQuery();
 }
 
 unsigned int MArgParser::numberOfFlagsUsed() const
@@ -110,8 +109,7 @@ unsigned int MArgParser::numberOfFlagsUsed() const
 
 unsigned int MArgParser::numberOfFlagUses(const char *flag) const
 {
-    const auto *uses = parsed_ ? parsed_->uses(flag ? flag : "") : nullptr;
-    return uses ? static_cast<unsigned int>(uses->size()) : 0;
+    return parsed_ ? parsed_->uses(flag ? flag : "") : 0;
 }
 
 MStatus MArgParser::getFlagArgument(const char *flag, unsigned int index, bool &result) const
@@ -170,7 +168,7 @@ MStatus MArgParser::getObjects(MStringArray &result) const
     if (!parsed_)
         return MStatus::kFailure;
     MStringArray names;
-    for (const std::string &name : parsed_->objects)
+    for (const std::string_view name : parsed_->objects)
         names.append(host::toMString(name));
     result = names;
     return MStatus::kSuccess;

@@ -6,11 +6,12 @@
 #include "api/apiAccess.h"
 #include "api/arguments.h"
 
-using host::FlagRule;
 using host::SyntaxTable;
 
 namespace
 {
+
+constexpr unsigned kAnyNumber = ~0u;
 
 // The table as one that no copy of the syntax shares.
 SyntaxTable &ownTable(std::shared_ptr<SyntaxTable> &table)
@@ -25,9 +26,40 @@ std::string bareName(const char *name)
     return !text.empty() && text[0] == '-' ? text.substr(1) : text;
 }
 
-FlagRule *findRule(SyntaxTable &table, const char *flag)
+// What a flag of the table takes: letters as in mel::Flag.
+char letterOf(MSyntax::MArgType type)
 {
-    return const_cast<FlagRule *>(table.find(flag ? flag : ""));
+    switch (type) {
+    case MSyntax::kBoolean:
+        return 'b';
+    case MSyntax::kLong:
+        return 'i';
+    case MSyntax::kUnsigned:
+        return 'u';
+    case MSyntax::kDouble:
+    case MSyntax::kDistance:
+    case MSyntax::kAngle:
+    case MSyntax::kTime:
+        return 'd';
+    default:
+        return 's';
+    }
+}
+
+MStatus addOption(SyntaxTable &table, const char *name, host::mel::Flag::Options option)
+{
+    const host::mel::Flag *known = table.find(name ? name : "");
+    if (!known)
+        return MStatus::kInvalidParameter;
+    auto &flags = table.command.flags;
+    flags[static_cast<std::size_t>(known - flags.data())].options |= option;
+    return MStatus::kSuccess;
+}
+
+void addMode(SyntaxTable &table, unsigned mode, bool isSupported)
+{
+    unsigned &modes = table.command.modes;
+    modes = isSupported ? modes | mode : modes & ~mode;
 }
 
 } // namespace
@@ -54,47 +86,38 @@ MStatus MSyntax::addFlag(const char *shortName, const char *longName, MArgType a
                          MArgType argType2, MArgType argType3, MArgType argType4, MArgType argType5,
                          MArgType argType6)
 {
-    FlagRule rule;
-    rule.shortName = bareName(shortName);
-    rule.longName = bareName(longName);
+    host::mel::Flag flag{bareName(shortName), bareName(longName)};
     const bool hasGoodNames =
-        !rule.shortName.empty() && rule.shortName.size() < 4 && rule.longName.size() > 3;
+        !flag.shortName.empty() && flag.shortName.size() < 4 && flag.longName.size() > 3;
     SyntaxTable &table = ownTable(table_);
-    if (!hasGoodNames || table.find(rule.longName))
+    if (!hasGoodNames || table.find(flag.longName))
         return MStatus::kFailure;
-    if (table.find(rule.shortName))
-        rule.shortName.clear();
+    if (table.find(flag.shortName))
+        flag.shortName.clear();
     for (const MArgType type : {argType1, argType2, argType3, argType4, argType5, argType6})
         if (type != kNoArg && type != kInvalidArgType)
-            rule.types.push_back(type);
-    table.flags.push_back(std::move(rule));
+            flag.arguments += letterOf(type);
+    table.command.flags.push_back(std::move(flag));
     return MStatus::kSuccess;
 }
 
 MStatus MSyntax::makeFlagMultiUse(const char *flag)
 {
-    FlagRule *rule = findRule(ownTable(table_), flag);
-    if (!rule)
-        return MStatus::kInvalidParameter;
-    rule->isMultiUse = true;
-    return MStatus::kSuccess;
+    return addOption(ownTable(table_), flag, host::mel::Flag::multiUse);
 }
 
 MStatus MSyntax::makeFlagQueryWithFullArgs(const char *flag, bool queryArgsAreOptional)
 {
-    FlagRule *rule = findRule(ownTable(table_), flag);
-    if (!rule)
-        return MStatus::kInvalidParameter;
-    rule->queryTakesArguments = true;
-    rule->queryArgumentsAreOptional = queryArgsAreOptional;
-    return MStatus::kSuccess;
+    return addOption(ownTable(table_), flag,
+                     queryArgsAreOptional ? host::mel::Flag::queryTakesValue
+                                          : host::mel::Flag::queryNeedsValue);
 }
 
 MStatus MSyntax::addArg(MArgType arg)
 {
     if (arg <= kNoArg || arg >= kLastArgType)
         return MStatus::kInvalidParameter;
-    ownTable(table_).arguments.push_back(arg);
+    ownTable(table_).arguments += letterOf(arg);
     return MStatus::kSuccess;
 }
 
@@ -105,7 +128,7 @@ void MSyntax::useSelectionAsDefault(bool useSelectionList)
 
 MStatus MSyntax::setObjectType(MObjectFormat objectFormat, unsigned int minimumObjects)
 {
-    return setObjectType(objectFormat, minimumObjects, ~0u);
+    return setObjectType(objectFormat, minimumObjects, kAnyNumber);
 }
 
 MStatus MSyntax::setObjectType(MObjectFormat objectFormat, unsigned int minimumObjects,
@@ -114,34 +137,33 @@ MStatus MSyntax::setObjectType(MObjectFormat objectFormat, unsigned int minimumO
     const bool isFormat = objectFormat > kInvalidObjectFormat && objectFormat < kLastObjectFormat;
     if (!isFormat || minimumObjects > maximumObjects)
         return MStatus::kInvalidParameter;
-    SyntaxTable &table = ownTable(table_);
-    table.objectFormat = objectFormat;
-    table.minimumObjects = minimumObjects;
-    table.maximumObjects = maximumObjects;
+    ownTable(table_).objectFormat = objectFormat;
+    setMinObjects(minimumObjects);
+    setMaxObjects(maximumObjects);
     return MStatus::kSuccess;
 }
 
 void MSyntax::setMinObjects(unsigned int count)
 {
-    ownTable(table_).minimumObjects = count;
+    ownTable(table_).objects.least = count;
 }
 void MSyntax::setMaxObjects(unsigned int count)
 {
-    ownTable(table_).maximumObjects = count;
+    ownTable(table_).objects.most = count == kAnyNumber ? host::mel::Objects::kAny : count;
 }
 void MSyntax::enableQuery(bool supportsQuery)
 {
-    ownTable(table_).canQuery = supportsQuery;
+    addMode(ownTable(table_), host::mel::Modes::query, supportsQuery);
 }
 void MSyntax::enableEdit(bool supportsEdit)
 {
-    ownTable(table_).canEdit = supportsEdit;
+    addMode(ownTable(table_), host::mel::Modes::edit, supportsEdit);
 }
 bool MSyntax::canQuery() const
 {
-    return host::tableOf(*this).canQuery;
+    return (host::tableOf(*this).command.modes & host::mel::Modes::query) != 0;
 }
 bool MSyntax::canEdit() const
 {
-    return host::tableOf(*this).canEdit;
+    return (host::tableOf(*this).command.modes & host::mel::Modes::edit) != 0;
 }

@@ -1,84 +1,73 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "api/arguments.h"
 
-#include <cmath>
+#include <charconv>
 #include <limits>
 
 #include "api/text.h"
+#include "mel/operandText.h"
 
 namespace host
 {
 
+std::vector<mel::Operand> ArgumentValues::operands() const
+{
+    std::vector<mel::Operand> operands;
+    operands.reserve(list.size());
+    for (const Value &value : list)
+        operands.push_back({value.text, value.isQuoted});
+    return operands;
+}
+
 ArgumentValue makeArgument(bool value)
 {
-    return {ArgumentValue::Kind::boolean, value ? "1" : "0", value ? 1.0 : 0.0};
+    return {value ? "1" : "0", false};
 }
 
 ArgumentValue makeArgument(int value)
 {
-    return {ArgumentValue::Kind::number, std::to_string(value), static_cast<double>(value)};
+    return {std::to_string(value), false};
 }
 
 ArgumentValue makeArgument(double value)
 {
-    return {ArgumentValue::Kind::number, generalText(value), value};
+    char digits[32]; // the shortest text that reads back as the same number: 24 at most
+    const auto result = std::to_chars(digits, digits + sizeof digits, value);
+    return {std::string(digits, result.ptr), false};
 }
 
 ArgumentValue makeArgument(std::string text)
 {
-    ArgumentValue argument;
-    if (wholeNumber(text, argument.number))
-        argument.kind = ArgumentValue::Kind::number;
-    argument.text = std::move(text);
-    return argument;
+    return {std::move(text), true};
 }
 
-bool convert(const ArgumentValue &argument, bool &result)
+bool convert(std::string_view text, bool &result)
 {
-    constexpr std::string_view kYes[] = {"true", "on", "yes"};
-    constexpr std::string_view kNo[] = {"false", "off", "no"};
-    for (const std::string_view word : kYes)
-        if (argument.text == word)
-            return result = true;
-    for (const std::string_view word : kNo) {
-        if (argument.text == word) {
-            result = false;
-            return true;
-        }
-    }
-    if (argument.kind == ArgumentValue::Kind::text)
+    const auto value = mel::toBoolean(text);
+    result = value.value_or(result);
+    return value.has_value();
+}
+
+bool convert(std::string_view text, int &result)
+{
+    const auto value = mel::toInteger(text);
+    if (!value || *value < std::numeric_limits<int>::min() ||
+        *value > std::numeric_limits<int>::max())
         return false;
-    result = argument.number != 0.0;
+    result = static_cast<int>(*value);
     return true;
 }
 
-bool convert(const ArgumentValue &argument, int &result)
+bool convert(std::string_view text, double &result)
 {
-    bool truth = false;
-    if (argument.kind == ArgumentValue::Kind::text) {
-        if (!convert(argument, truth))
-            return false;
-        result = truth;
-        return true;
-    }
-    const double whole = std::trunc(argument.number);
-    if (!(whole >= std::numeric_limits<int>::min() && whole <= std::numeric_limits<int>::max()))
-        return false;
-    result = static_cast<int>(whole);
-    return true;
+    const auto value = mel::toNumber(text);
+    result = value.value_or(result);
+    return value.has_value();
 }
 
-bool convert(const ArgumentValue &argument, double &result)
+bool convert(std::string_view text, MString &result)
 {
-    if (argument.kind == ArgumentValue::Kind::text)
-        return false;
-    result = argument.number;
-    return true;
-}
-
-bool convert(const ArgumentValue &argument, MString &result)
-{
-    result = toMString(argument.text);
+    result = toMString(text);
     return true;
 }
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-// What lies behind MArgList, MSyntax and MArgParser: values, the rules of a command, and the values
-// sorted by the rules.
+// What lies behind MArgList, MSyntax and MArgParser: operands, the row of a command, and the
+// operands sorted by it. Plug-in commands are sorted as built-in ones are (mel/command.h).
 #pragma once
 
-#include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,67 +12,58 @@
 #include <maya/MString.h>
 #include <maya/MSyntax.h>
 
-#include "scene/error.h"
+#include "mel/command.h"
 
 namespace host
 {
 
-// One argument. What MEL typed is kept as text; numbers that a program added keep their kind.
-struct ArgumentValue {
-    enum class Kind { boolean, number, text };
-    Kind kind = Kind::text;
-    std::string text; // always set
-    double number = 0.0;
+// The arguments of one call, with their texts.
+class ArgumentValues
+{
+public:
+    struct Value {
+        std::string text;
+        bool isQuoted = true; // a quoted text is a flag in the function form only
+    };
+    std::vector<Value> list;
+    // What a program puts together counts as f("-x", "y").
+    bool isFunctionForm = true;
+
+    std::vector<mel::Operand> operands() const; // views of the texts
 };
+using ArgumentValue = ArgumentValues::Value;
 
 ArgumentValue makeArgument(bool value);
 ArgumentValue makeArgument(int value);
 ArgumentValue makeArgument(double value);
-ArgumentValue makeArgument(std::string text); // text that reads as a number is a number too
+ArgumentValue makeArgument(std::string text);
 
-// The argument as that type; false, and `result` left alone, when it is none. Text converts to
-// numbers as MEL does it, true/false, on/off and yes/no to bool.
-bool convert(const ArgumentValue &argument, bool &result);
-bool convert(const ArgumentValue &argument, int &result);
-bool convert(const ArgumentValue &argument, double &result);
-bool convert(const ArgumentValue &argument, MString &result);
+// The text as that type, as MEL reads it; false, and `result` left alone, when it is none.
+bool convert(std::string_view text, bool &result);
+bool convert(std::string_view text, int &result);
+bool convert(std::string_view text, double &result);
+bool convert(std::string_view text, MString &result);
 
-class ArgumentValues
-{
-public:
-    std::vector<ArgumentValue> list;
-};
+const ArgumentValues &valuesOf(const MArgList &list);
 
-struct FlagRule {
-    std::string shortName; // without dash; empty when an earlier flag has it
-    std::string longName;
-    std::vector<MSyntax::MArgType> types;
-    bool isMultiUse = false;
-    bool queryTakesArguments = false;
-    bool queryArgumentsAreOptional = false;
-
-    bool hasName(std::string_view name) const { return name == shortName || name == longName; }
-};
-
+// What an MSyntax says, as a row of the command table and what such a row does not know.
 class SyntaxTable
 {
 public:
-    std::vector<FlagRule> flags;
-    std::vector<MSyntax::MArgType> arguments;
+    mel::Command command;  // flags and modes; counts are left to the members below
+    std::string arguments; // a letter for each argument in front of the objects
     MSyntax::MObjectFormat objectFormat = MSyntax::kNone;
-    unsigned minimumObjects = 0;
-    unsigned maximumObjects = ~0u;
+    mel::Objects objects;
     bool usesSelection = false;
-    bool canQuery = false;
-    bool canEdit = false;
 
     // By short or long name, with or without dash; null if there is none.
-    const FlagRule *find(std::string_view name) const;
+    const mel::Flag *find(std::string_view name) const;
+    // The row with its counts. Objects that the selection stands for are not among them.
+    mel::Command row() const;
 };
 
 // The rules behind an MSyntax; never null.
 const SyntaxTable &tableOf(const MSyntax &syntax);
-const std::vector<ArgumentValue> &valuesOf(const MArgList &list);
 
 // Names of what is selected now, as a command without objects gets them.
 std::vector<std::string> selectedNames();
@@ -81,28 +72,32 @@ std::vector<std::string> selectedNames();
 class ParsedArguments
 {
 public:
-    // Throws Error with what Maya prints: "Invalid flag '-xyz'", ... `selection`: names that stand
-    // for the objects when the syntax says so and none were given.
-    ParsedArguments(SyntaxTable table, const std::vector<ArgumentValue> &values,
-                    const std::vector<std::string> &selection);
+    // Throws Error as CommandTable::sort does. `selection`: names that stand for the objects when
+    // the syntax says so and none were given.
+    ParsedArguments(const SyntaxTable &table, const ArgumentValues &values,
+                    std::vector<std::string> selection);
+    ParsedArguments(const ParsedArguments &) = delete; // sorted_ points into the others
+    ParsedArguments &operator=(const ParsedArguments &) = delete;
 
-    bool isQuery = false;
-    bool isEdit = false;
-    std::vector<ArgumentValue> arguments; // those of MSyntax::addArg
-    std::vector<std::string> objects;
+    std::vector<std::string_view> arguments; // those of MSyntax::addArg
+    std::vector<std::string_view> objects;
 
-    // Uses of a flag, each with its arguments; null if the flag was not used or does not exist.
-    const std::vector<std::vector<ArgumentValue>> *uses(std::string_view flag) const;
+    bool isQuery() const { return sorted_.isQuery(); }
+    bool isEdit() const { return sorted_.isEdit(); }
     bool knows(std::string_view flag) const { return table_.find(flag) != nullptr; }
-    unsigned flagsUsed() const { return static_cast<unsigned>(uses_.size()); }
+    unsigned uses(std::string_view flag) const;
+    // An argument of the first use; null if there is none.
+    const mel::Operand *argument(std::string_view flag, std::size_t index) const;
+    unsigned flagsUsed() const;
 
 private:
-    using Values = std::vector<ArgumentValue>;
-    std::size_t takeFlag(const Values &values, std::size_t place);
-    void takeObjects(const Values &operands, const std::vector<std::string> &selection);
+    void takeObjects();
 
-    SyntaxTable table_;
-    std::map<const FlagRule *, std::vector<Values>> uses_;
+    const SyntaxTable table_;
+    const mel::Command row_;
+    const ArgumentValues values_;
+    const std::vector<std::string> selection_;
+    mel::Arguments sorted_;
 };
 
 } // namespace host

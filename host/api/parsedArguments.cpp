@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "api/arguments.h"
+#include "scene/error.h"
 
 namespace host
 {
@@ -9,160 +10,92 @@ namespace host
 namespace
 {
 
-// A dash and a letter: "-1" is a number.
-bool looksLikeFlag(const ArgumentValue &argument)
+// Throws when the operand is nothing that the letter of an argument stands for.
+void refuseUnfit(const mel::Operand &operand, char letter)
 {
-    const std::string &text = argument.text;
-    return text.size() > 1 && text[0] == '-' &&
-           ((text[1] >= 'a' && text[1] <= 'z') || (text[1] >= 'A' && text[1] <= 'Z'));
-}
-
-std::string_view withoutDash(std::string_view name)
-{
-    return !name.empty() && name.front() == '-' ? name.substr(1) : name;
-}
-
-const char *typeWord(MSyntax::MArgType type)
-{
-    switch (type) {
-    case MSyntax::kBoolean:
-        return "boolean";
-    case MSyntax::kLong:
-        return "int";
-    case MSyntax::kUnsigned:
-        return "unsigned int";
-    case MSyntax::kDouble:
-    case MSyntax::kDistance:
-    case MSyntax::kAngle:
-    case MSyntax::kTime:
-        return "double";
+    switch (letter) {
+    case 'b':
+        operand.boolean();
+        break;
+    case 'i':
+    case 'u':
+        operand.integer();
+        break;
+    case 'd':
+        operand.number();
+        break;
     default:
-        return "string";
+        break;
     }
 }
 
-bool fits(const ArgumentValue &argument, MSyntax::MArgType type)
+std::size_t sum(std::size_t count, std::size_t more)
 {
-    bool truth = false;
-    int whole = 0;
-    double number = 0.0;
-    switch (type) {
-    case MSyntax::kBoolean:
-        return convert(argument, truth);
-    case MSyntax::kLong:
-        return convert(argument, whole);
-    case MSyntax::kUnsigned:
-        return convert(argument, whole) && whole >= 0;
-    case MSyntax::kDouble:
-    case MSyntax::kDistance:
-    case MSyntax::kAngle:
-    case MSyntax::kTime:
-        return convert(argument, number);
-    default:
-        return true;
-    }
-}
-
-void requireFit(const FlagRule &flag, const ArgumentValue &argument, MSyntax::MArgType type)
-{
-    if (fits(argument, type))
-        return;
-    const char *got = argument.kind == ArgumentValue::Kind::text ? "string" : "double";
-    throw Error("Invalid arguments for flag '" + flag.longName + "'.  Expected ( " +
-                typeWord(type) + " ), got [ " + got + " ]");
+    return more == mel::Objects::kAny ? more : count + more;
 }
 
 } // namespace
 
-const FlagRule *SyntaxTable::find(std::string_view name) const
+const mel::Flag *SyntaxTable::find(std::string_view name) const
 {
-    const std::string_view bare = withoutDash(name);
-    if (bare.empty())
-        return nullptr;
-    const auto place = std::find_if(flags.begin(), flags.end(),
-                                    [bare](const FlagRule &flag) { return flag.hasName(bare); });
-    return place == flags.end() ? nullptr : &*place;
+    if (!name.empty() && name.front() == '-')
+        name.remove_prefix(1);
+    return name.empty() ? nullptr : mel::findFlag(command.flags, name);
 }
 
-ParsedArguments::ParsedArguments(SyntaxTable table, const Values &values,
-                                 const std::vector<std::string> &selection)
-    : table_(std::move(table))
+mel::Command SyntaxTable::row() const
 {
-    Values operands;
-    for (std::size_t i = 0; i < values.size();) {
-        if (looksLikeFlag(values[i]))
-            i = takeFlag(values, i);
-        else
-            operands.push_back(values[i++]);
-    }
-    takeObjects(operands, selection);
+    mel::Command row = command;
+    const mel::Objects own = objectFormat == MSyntax::kNone ? mel::Objects{0, 0} : objects;
+    const std::size_t least = usesSelection ? 0 : own.least;
+    row.objects = {arguments.size() + least, sum(arguments.size(), own.most)};
+    row.targets = {arguments.empty() ? least : 0, row.objects.most}; // a query needs no arguments
+    return row;
 }
 
-// Takes the flag at `place` with its arguments; returns the place behind them.
-std::size_t ParsedArguments::takeFlag(const Values &values, std::size_t place)
+ParsedArguments::ParsedArguments(const SyntaxTable &table, const ArgumentValues &values,
+                                 std::vector<std::string> selection)
+    : table_(table), row_(table.row()), values_(values), selection_(std::move(selection)),
+      sorted_(mel::CommandTable::sort(row_, values_.operands(), values_.isFunctionForm))
 {
-    const std::string &text = values[place++].text;
-    const std::string_view name = withoutDash(text);
-    const FlagRule *flag = table_.find(name);
-    if (!flag && table_.canQuery && (name == "q" || name == "query")) {
-        isQuery = true;
-        return place;
-    }
-    if (!flag && table_.canEdit && (name == "e" || name == "edit")) {
-        isEdit = true;
-        return place;
-    }
-    if (!flag)
-        throw Error("Invalid flag '" + text + "'");
-    std::vector<Values> &uses = uses_[flag];
-    if (!uses.empty() && !flag->isMultiUse)
-        throw Error("Flag '" + text + "' can't be used more than once");
-    Values taken;
-    const bool takesArguments = !isQuery || flag->queryTakesArguments;
-    for (const MSyntax::MArgType type : takesArguments ? flag->types : decltype(flag->types)()) {
-        if (place >= values.size() && isQuery && flag->queryArgumentsAreOptional)
-            break;
-        if (place >= values.size())
-            throw Error("Flag '" + text + "' must be passed " + std::to_string(flag->types.size()) +
-                        (flag->types.size() == 1 ? " argument" : " arguments"));
-        requireFit(*flag, values[place], type);
-        taken.push_back(values[place++]);
-    }
-    uses.push_back(std::move(taken));
-    return place;
+    takeObjects();
 }
 
 // What belongs to no flag: first the arguments that the syntax names, then objects.
-void ParsedArguments::takeObjects(const Values &operands, const std::vector<std::string> &selection)
+void ParsedArguments::takeObjects()
 {
-    const std::size_t wanted = table_.arguments.size();
-    if (operands.size() < wanted && !isQuery)
-        throw Error("Wrong number of arguments: expected " + std::to_string(wanted) + ", got " +
-                    std::to_string(operands.size()));
-    const std::size_t count = std::min(wanted, operands.size());
+    const std::size_t count = std::min(table_.arguments.size(), sorted_.objects.size());
     for (std::size_t i = 0; i < count; ++i) {
-        if (!fits(operands[i], table_.arguments[i]))
-            throw Error("Invalid argument '" + operands[i].text + "'.  Expected ( " +
-                        typeWord(table_.arguments[i]) + " )");
-        arguments.push_back(operands[i]);
+        refuseUnfit(sorted_.objects[i], table_.arguments[i]);
+        arguments.push_back(sorted_.objects[i].text);
     }
-    for (std::size_t i = count; i < operands.size(); ++i)
-        objects.push_back(operands[i].text);
-    const bool takesObjects = table_.objectFormat != MSyntax::kNone;
-    if (!takesObjects && !objects.empty())
-        throw Error("Invalid argument '" + objects.front() + "'");
-    if (takesObjects && objects.empty() && table_.usesSelection)
-        objects = selection;
-    if (takesObjects && objects.size() < table_.minimumObjects)
-        throw Error("Not enough objects or values.");
-    if (takesObjects && objects.size() > table_.maximumObjects)
-        throw Error("Too many objects or values.");
+    for (std::size_t i = count; i < sorted_.objects.size(); ++i)
+        objects.push_back(sorted_.objects[i].text);
+    if (!table_.usesSelection || !objects.empty())
+        return;
+    objects.assign(selection_.begin(), selection_.end());
+    mel::requireObjectCount(row_.name, objects.size(), table_.objects);
 }
 
-const std::vector<std::vector<ArgumentValue>> *ParsedArguments::uses(std::string_view flag) const
+unsigned ParsedArguments::uses(std::string_view flag) const
 {
-    const auto place = uses_.find(table_.find(flag));
-    return place == uses_.end() ? nullptr : &place->second;
+    const mel::Flag *known = table_.find(flag);
+    return known ? static_cast<unsigned>(sorted_.uses(known->longName)) : 0;
+}
+
+const mel::Operand *ParsedArguments::argument(std::string_view flag, std::size_t index) const
+{
+    if (uses(flag) == 0)
+        return nullptr;
+    const std::vector<mel::Operand> &values = sorted_.of(table_.find(flag)->longName);
+    return index < values.size() ? &values[index] : nullptr;
+}
+
+unsigned ParsedArguments::flagsUsed() const
+{
+    const auto isFirst = [](const auto &flagAndUse) { return flagAndUse.second == 0; };
+    return static_cast<unsigned>(
+        std::count_if(sorted_.order.begin(), sorted_.order.end(), isFirst));
 }
 
 } // namespace host

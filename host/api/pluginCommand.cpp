@@ -68,11 +68,12 @@ private:
     mel::MelValue outerResult_;
 };
 
-MArgList toArgList(const std::vector<mel::Operand> &operands)
+MArgList toArgList(const mel::Arguments &arguments)
 {
     auto values = std::make_shared<ArgumentValues>();
-    for (const mel::Operand &operand : operands)
-        values->list.push_back(makeArgument(operand.string()));
+    values->isFunctionForm = arguments.isFunctionForm;
+    for (const mel::Operand &operand : arguments.objects)
+        values->list.push_back({operand.string(), operand.isQuoted});
     MArgList list;
     ApiAccess::values(list) = std::move(values);
     return list;
@@ -87,8 +88,18 @@ UndoStep makeStep(Process &process, const std::shared_ptr<CommandObject> &object
     return {[run] { return run(&MPxCommand::undoIt); }, [run] { return run(&MPxCommand::redoIt); }};
 }
 
+// The syntax with the command's name, for error texts.
+MSyntax syntaxOf(const PluginCommand &registration)
+{
+    MSyntax syntax = registration.createSyntax ? registration.createSyntax() : MSyntax();
+    auto &table = ApiAccess::table(syntax);
+    table = std::make_shared<SyntaxTable>(tableOf(syntax));
+    table->command.name = registration.name;
+    return syntax;
+}
+
 mel::MelValue call(Process &process, const PluginCommand &registration, const MSyntax &syntax,
-                   const std::vector<mel::Operand> &operands)
+                   const mel::Arguments &operands)
 {
     const MArgList arguments = toArgList(operands);
     if (registration.createSyntax) // refuses bad arguments before there is an object
@@ -112,10 +123,10 @@ mel::Command makePluginCommand(Process &process, const PluginCommand &registrati
     command.name = registration.name;
     command.takesRawArguments = true;
     command.isFromPlugin = true;
-    const MSyntax syntax = registration.createSyntax ? registration.createSyntax() : MSyntax();
+    const MSyntax syntax = syntaxOf(registration);
     command.run = [&process, registration, syntax](mel::Context &,
                                                    const mel::Arguments &arguments) {
-        return call(process, registration, syntax, arguments.objects);
+        return call(process, registration, syntax, arguments);
     };
     return command;
 }

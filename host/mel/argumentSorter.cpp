@@ -2,7 +2,6 @@
 #include "mel/argumentSorter.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "mel/characters.h"
 #include "mel/operandText.h"
@@ -20,6 +19,8 @@ bool accepts(char letter, std::string_view text)
         return toBoolean(text).has_value();
     case 'i':
         return toInteger(text).has_value();
+    case 'u':
+        return toInteger(text).value_or(-1) >= 0;
     case 'd':
         return toNumber(text).has_value();
     default:
@@ -34,6 +35,8 @@ std::string_view letterName(char letter)
         return "boolean";
     case 'i':
         return "int";
+    case 'u':
+        return "unsigned int";
     case 'd':
         return "double";
     default:
@@ -41,16 +44,22 @@ std::string_view letterName(char letter)
     }
 }
 
+// What error texts call it.
+const std::string &nameOf(const Flag &flag)
+{
+    return flag.shortName.empty() ? flag.longName : flag.shortName;
+}
+
 [[noreturn]] void throwWrongArguments(const Flag &flag, const Operand *first, std::size_t count)
 {
     std::string expected;
-    for (const char *letter = flag.arguments; *letter != '\0'; ++letter)
-        expected.append(expected.empty() ? "" : ", ").append(letterName(*letter));
+    for (const char letter : flag.arguments)
+        expected.append(expected.empty() ? "" : ", ").append(letterName(letter));
     std::string got;
-    for (std::size_t i = 0; i < std::min(count, std::strlen(flag.arguments)); ++i)
+    for (std::size_t i = 0; i < std::min(count, flag.arguments.size()); ++i)
         got.append(i == 0 ? " " : ", ").append(typeName(first[i].text));
-    throw Error(std::string("Invalid arguments for flag '") + flag.shortName + "'.  Expected ( " +
-                expected + " ), got [" + got + " ]");
+    throw Error("Invalid arguments for flag '" + nameOf(flag) + "'.  Expected ( " + expected +
+                " ), got [" + got + " ]");
 }
 
 } // namespace
@@ -60,6 +69,7 @@ ArgumentSorter::ArgumentSorter(const Command &command, const std::vector<Operand
     : command_(command), operands_(operands), isFunctionForm_(isFunctionForm), queryAt_(findQuery())
 {
     result_.declared_ = &command.flags;
+    result_.isFunctionForm = isFunctionForm;
 }
 
 Arguments ArgumentSorter::sorted() &&
@@ -86,7 +96,16 @@ Arguments ArgumentSorter::sorted() &&
         }
         ++next_;
     }
+    requireObjects();
     return std::move(result_);
+}
+
+void ArgumentSorter::requireObjects() const
+{
+    const bool isCreated = result_.mode == Arguments::Mode::create;
+    const Objects wanted =
+        isCreated ? command_.objects : command_.targets.value_or(command_.objects);
+    requireObjectCount(command_.name, result_.objects.size(), wanted);
 }
 
 bool ArgumentSorter::mayBeFlag(const Operand &operand) const
@@ -102,26 +121,18 @@ ArgumentSorter::Meaning ArgumentSorter::meaningOf(const Operand &operand, const 
     if (!mayBeFlag(operand))
         return Meaning::value;
     const std::string_view name = operand.text.substr(1);
-    if (const Flag *found = findFlag(name)) {
+    if (const Flag *found = findFlag(command_.flags, name)) {
         if (flag)
             *flag = found;
         return Meaning::flag;
     }
-    if (name == "q" || name == "query")
+    if ((name == "q" || name == "query") && (command_.modes & Modes::query) != 0)
         return Meaning::query;
-    if (name == "e" || name == "edit")
+    if ((name == "e" || name == "edit") && (command_.modes & Modes::edit) != 0)
         return Meaning::edit;
     // print("-abc") prints; a command without flags has none that could be unknown.
     const bool isText = operand.isQuoted && command_.flags.empty();
     return isText || isNotFinite(operand.text) ? Meaning::value : Meaning::unknownFlag;
-}
-
-const Flag *ArgumentSorter::findFlag(std::string_view name) const
-{
-    for (const Flag &flag : command_.flags)
-        if (name == flag.shortName || name == flag.longName)
-            return &flag;
-    return nullptr;
 }
 
 std::size_t ArgumentSorter::findQuery() const
@@ -144,8 +155,7 @@ void ArgumentSorter::takeFlag(const Flag &flag)
 // command is a value here: button("-label", "-go").
 std::size_t ArgumentSorter::availableValues(const Flag &flag) const
 {
-    const bool takesRest = (flag.options & Flag::rest) != 0;
-    const std::size_t most = takesRest ? operands_.size() : std::strlen(flag.arguments);
+    const std::size_t most = flag.hasOption(Flag::rest) ? operands_.size() : flag.arguments.size();
     std::size_t count = 0;
     for (std::size_t i = next_ + 1; i < operands_.size() && count < most; ++i, ++count) {
         const Meaning meaning = meaningOf(operands_[i]);
@@ -160,19 +170,19 @@ std::size_t ArgumentSorter::wantedValues(const Flag &flag) const
 {
     const bool isQuery = queryAt_ < operands_.size();
     const bool isAsked = isQuery && next_ > queryAt_;
-    if (isAsked && !(flag.options & Flag::queryTakesValue))
+    if (isAsked && !flag.hasOption(Flag::queryTakesValue))
         return 0;
     const std::size_t available = availableValues(flag);
     if (fits(flag, available))
         return available;
-    if (!isQuery)
+    if (!isQuery || flag.hasOption(Flag::queryNeedsValue))
         throwWrongArguments(flag, operands_.data() + next_ + 1, available);
     return 0;
 }
 
 bool ArgumentSorter::fits(const Flag &flag, std::size_t available) const
 {
-    const std::size_t needed = std::strlen(flag.arguments);
+    const std::size_t needed = flag.arguments.size();
     if (available < needed)
         return false;
     for (std::size_t i = 0; i < needed; ++i)
@@ -187,8 +197,8 @@ void ArgumentSorter::addUse(const Flag &flag, std::vector<Operand> values)
                              [&](const auto &one) { return one.flag == &flag; });
     if (used == result_.used_.end())
         used = result_.used_.insert(used, {&flag, {}});
-    else if (!(flag.options & Flag::multiUse))
-        throw Error(std::string("Flag '-") + flag.shortName + "' can't be used more than once");
+    else if (!flag.hasOption(Flag::multiUse))
+        throw Error("Flag '-" + nameOf(flag) + "' can't be used more than once");
     result_.order.emplace_back(flag.longName, used->uses.size());
     used->uses.push_back(std::move(values));
 }

@@ -18,8 +18,8 @@ private:
     enum class Meaning { value, flag, query, edit, unknownFlag };
     Meaning meaningOf(const Operand &operand, const Flag **flag = nullptr) const;
     bool mayBeFlag(const Operand &operand) const;
-    const Flag *findFlag(std::string_view name) const;
     std::size_t findQuery() const;
+    void requireObjects() const;
 
     // Takes the flag at next_ with its arguments.
     void takeFlag(const Flag &flag);

@@ -7,6 +7,20 @@
 namespace host::mel
 {
 
+const Flag *findFlag(const std::vector<Flag> &flags, std::string_view name)
+{
+    const auto found = std::find_if(flags.begin(), flags.end(), [name](const Flag &flag) {
+        return name == flag.shortName || name == flag.longName;
+    });
+    return found == flags.end() ? nullptr : &*found;
+}
+
+void requireObjectCount(std::string_view command, std::size_t count, const Objects &wanted)
+{
+    if (count < wanted.least || count > wanted.most)
+        throw Error("Wrong number of arguments on call to " + std::string(command) + '.');
+}
+
 const Arguments::UsedFlag *Arguments::find(std::string_view longName) const
 {
     assert(!declared_ || std::any_of(declared_->begin(), declared_->end(),

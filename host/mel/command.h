@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -35,17 +36,37 @@ struct Operand {
 };
 
 struct Flag {
-    const char *shortName; // without dash
-    const char *longName;
-    // One letter per argument: b boolean, i integer, d number, s string. "" for none.
-    const char *arguments = "";
+    std::string shortName; // without dash; may be empty
+    std::string longName;
+    // One letter per argument: b boolean, i integer, u integer from 0 on, d number, s string.
+    std::string arguments = {};
     enum Options : unsigned {
         none = 0,
         multiUse = 1,        // may repeat
         queryTakesValue = 2, // has its argument in query mode as well
-        rest = 4             // takes all operands up to the next flag
+        queryNeedsValue = 6, // and is refused there without it
+        rest = 8             // takes all operands up to the next flag
     };
     unsigned options = none;
+
+    bool hasOption(Options option) const { return (options & option) == option; }
+};
+
+// By short or long name, without dash; null if there is none.
+const Flag *findFlag(const std::vector<Flag> &flags, std::string_view name);
+
+// How many objects a call takes. Commands that can do with the selection take none, too.
+struct Objects {
+    static constexpr std::size_t kAny = static_cast<std::size_t>(-1);
+    std::size_t least = 0;
+    std::size_t most = kAny;
+};
+// Throws "Wrong number of arguments on call to NAME.".
+void requireObjectCount(std::string_view command, std::size_t count, const Objects &wanted);
+
+// What a command can be asked to do; -query and -edit are unknown flags to one that can not.
+struct Modes {
+    enum Bits : unsigned { create = 1, query = 2, edit = 4 };
 };
 
 // The arguments of one call, sorted.
@@ -57,11 +78,13 @@ public:
     bool isQuery() const { return mode == Mode::query; }
     bool isEdit() const { return mode == Mode::edit; }
     std::vector<Operand> objects; // what belongs to no flag, in order
+    bool isFunctionForm = false;  // f("-x", 1) and not f -x 1
 
     // By long name. A flag that is not declared is a programming error (assert).
     bool has(std::string_view longName) const;
     std::size_t uses(std::string_view longName) const;
-    // The operands of the n-th use; REQUIRES: uses(longName) > use.
+    // The operands of the n-th use, none where the flag is asked for in query mode; REQUIRES:
+    // uses(longName) > use.
     const std::vector<Operand> &of(std::string_view longName, std::size_t use = 0) const;
     // The first operand of the first use, or the fallback.
     double number(std::string_view longName, double fallback) const;
@@ -100,10 +123,17 @@ struct Context {
 // Fails by throwing Error; with an empty text if what went wrong has been shown already.
 using CommandFunction = std::function<MelValue(Context &, const Arguments &)>;
 
+// A row of the table: {"connectAttr", {{"f", "force"}}, connectAttr, {2, 2}}. What its columns do
+// not allow never reaches the function.
 struct Command {
     std::string name;
     std::vector<Flag> flags;
     CommandFunction run;
+    Objects objects = {};           // any number
+    unsigned modes = Modes::create; // Modes::create | Modes::query, say
+    // The objects of a query or an edit where they differ: polyCube makes something out of nothing,
+    // and asks one node.
+    std::optional<Objects> targets = std::nullopt;
     // Whether a call is an item of its own on the undo queue (what it records decides in the end).
     bool isUndoable = true;
     // Whether a file may contain it.
@@ -126,8 +156,9 @@ public:
     // The same, kept alive for a call in which it may be removed.
     std::shared_ptr<const Command> hold(std::string_view name) const;
 
-    // Sorts evaluated operands by the command's flags, which must outlive the result. Throws Error:
-    // "Invalid flag '-xyz'", too few or wrong arguments for a flag, a flag repeated that may not.
+    // Sorts evaluated operands by the command's columns, which must outlive the result. Throws
+    // Error: "Invalid flag '-xyz'", too few or wrong arguments for a flag, a flag repeated that may
+    // not, "Wrong number of arguments on call to NAME.".
     //
     // In query mode, flags that stand before -query take their arguments as ever (skinPercent -ib
     // 0.1 -q -v), those after it only with queryTakesValue, and only if what follows fits. In the

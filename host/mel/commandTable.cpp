@@ -47,6 +47,7 @@ Arguments CommandTable::sort(const Command &command, const std::vector<Operand> 
     if (command.takesRawArguments) {
         Arguments arguments;
         arguments.objects = operands;
+        arguments.isFunctionForm = isFunctionForm;
         return arguments;
     }
     return ArgumentSorter(command, operands, isFunctionForm).sorted();

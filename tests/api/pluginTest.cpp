@@ -68,10 +68,12 @@ TEST_F(pluginCommand, keepsTheSecondOfTwoEqualShortFlagsByItsLongName)
 TEST_F(pluginCommand, refusesBadArgumentsWithOneLine)
 {
     EXPECT_EQ(melError("number -bogus"), "Invalid flag '-bogus'");
+    EXPECT_EQ(melError("number -q -s"), "Invalid flag '-q'");
     EXPECT_EQ(melError("number -setTo abc"),
-              "Invalid arguments for flag 'setTo'.  Expected ( int ), got [ string ]");
-    EXPECT_NE(melError("number -setTo"), "");
-    EXPECT_NE(melError("number stray"), "");
+              "Invalid arguments for flag 's'.  Expected ( int ), got [ string ]");
+    EXPECT_EQ(melError("number -setTo"),
+              "Invalid arguments for flag 's'.  Expected ( int ), got [ ]");
+    EXPECT_EQ(melError("number stray"), "Wrong number of arguments on call to number.");
     EXPECT_EQ(melError("number -fail"), "") << "what a command does not say is not said";
     EXPECT_EQ(undoItems(), "0");
 }

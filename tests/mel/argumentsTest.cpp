@@ -23,7 +23,9 @@ const Command kPercent = {"percent",
                            {"mi", "maxInfluences", "i"},
                            {"dv", "defaultValue", "d", Flag::rest},
                            {"r", "relative"}},
-                          nullptr};
+                          nullptr,
+                          {},
+                          Modes::create | Modes::query | Modes::edit};
 
 std::string joined(const std::vector<Operand> &operands)
 {
@@ -89,6 +91,29 @@ TEST(flags, areSortedFromObjects)
     };
     for (const auto &[call, expected] : cases)
         EXPECT_EQ(sorted(kPercent, call), expected) << call;
+}
+
+TEST(columns, refuseCallsThatTheCommandDoesNotKnow)
+{
+    const Command make = {"make", {{"n", "name", "s"}}, nullptr, {0, 1}};
+    const Command ask = {"ask",  {{"n", "name", "s"}},         nullptr,
+                         {0, 0}, Modes::create | Modes::query, Objects{1, 2}};
+    const struct {
+        const Command &command;
+        const char *call, *expected;
+    } cases[] = {
+        {make, "make -n a b", "name(a) | b"},
+        {make, "make a b", "Wrong number of arguments on call to make."},
+        {make, "make -q -n a", "Invalid flag '-q'"},
+        {make, "make(\"-edit\")", "Invalid flag '-edit'"},
+        {ask, "ask", "| "},
+        {ask, "ask a", "Wrong number of arguments on call to ask."},
+        {ask, "ask -q -n a b", "query name() | a b"},
+        {ask, "ask -q", "Wrong number of arguments on call to ask."},
+        {ask, "ask -e a", "Invalid flag '-e'"},
+    };
+    for (const auto &c : cases)
+        EXPECT_EQ(sorted(c.command, c.call), c.expected) << c.call;
 }
 
 TEST(flags, areLeftToCommandsThatSortThemselves)

@@ -78,9 +78,7 @@ std::string keptFlags(const Arguments &arguments)
     for (const auto &[name, use] : arguments.order) {
         if (std::find(std::begin(kKeptFlags), std::end(kKeptFlags), name) == std::end(kKeptFlags))
             continue;
-        const auto flag = std::find_if(kFlags.begin(), kFlags.end(),
-                                       [&n = name](const Flag &row) { return n == row.longName; });
-        text += std::string(" -") + flag->shortName;
+        text += " -" + findFlag(kFlags, name)->shortName;
         for (const Operand &operand : arguments.of(name, use))
             text += ' ' + written(operand);
     }
@@ -183,7 +181,6 @@ void addTo(Context &context, PendingAttributes &pending, const NodePtr &node,
 // -query -exists, -attributeType, ... on "node.attr".
 MelValue query(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "addAttr", 1, 1);
     const std::string_view name = arguments.objects.front().text;
     if (arguments.has("exists"))
         return static_cast<long long>(findPlug(context, name).has_value());
@@ -218,11 +215,15 @@ void addAddAttrCommand(CommandTable &table)
 {
     // Lives as long as the table: an interpreter has its own.
     const auto pending = std::make_shared<PendingAttributes>();
-    Command command{"addAttr", kFlags, [pending](Context &context, const Arguments &arguments) {
+    Command command{"addAttr",
+                    kFlags,
+                    [pending](Context &context, const Arguments &arguments) {
                         return addAttr(context, arguments, *pending);
-                    }};
-    command.isFileStatement = true;
-    table.add(std::move(command));
+                    },
+                    {},
+                    Modes::create | Modes::query | Modes::edit,
+                    Objects{1, 1}};
+    table.add(fileStatement(std::move(command)));
 }
 
 } // namespace host::mel

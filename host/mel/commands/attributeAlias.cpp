@@ -99,16 +99,14 @@ MelValue query(Context &context, std::string_view name)
 MelValue aliasAttr(Context &context, const Arguments &arguments)
 {
     const std::vector<Operand> &objects = arguments.objects;
-    if (arguments.isQuery()) {
-        requireObjectCount(arguments, "aliasAttr", 1, 1);
+    if (arguments.isQuery())
         return query(context, objects.front().text);
-    }
     if (arguments.has("remove")) {
         for (const Operand &object : objects)
             removeAlias(context, object.text);
         return MelValue();
     }
-    if (objects.empty() || objects.size() % 2 != 0)
+    if (objects.size() % 2 != 0)
         throw Error("Wrong number of arguments on call to aliasAttr.");
     for (std::size_t i = 0; i < objects.size(); i += 2)
         setAlias(context, objects[i].text, objects[i + 1].text);
@@ -155,7 +153,12 @@ void setAliases(Scene &scene, const NodePtr &node, const AliasList &aliases)
 
 void addAliasAttrCommand(CommandTable &table)
 {
-    table.add({"aliasAttr", {{"rm", "remove"}}, aliasAttr});
+    table.add({"aliasAttr",
+               {{"rm", "remove"}},
+               aliasAttr,
+               {1, Objects::kAny},
+               Modes::create | Modes::query,
+               Objects{1, 1}});
 }
 
 } // namespace host::mel

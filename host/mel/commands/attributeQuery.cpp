@@ -199,7 +199,6 @@ Plug attributeAsked(Context &context, const Arguments &arguments)
 
 MelValue attributeQuery(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "attributeQuery", 1, 1);
     if (!arguments.has("node") && !arguments.has("type"))
         throw Error("attributeQuery: A node (-n) or a node type (-typ) has to be given.");
     const Plug plug = attributeAsked(context, arguments);
@@ -232,10 +231,10 @@ void addAttributeQueryCommand(CommandTable &table)
 {
     Command command{"attributeQuery",
                     {{"n", "node", "s"}, {"typ", "type", "s"}, {"ex", "exists"}},
-                    attributeQuery};
+                    attributeQuery,
+                    {1, 1}};
     for (const Question &question : kQuestions)
         command.flags.push_back(question.flag);
-    command.isUndoable = false;
     table.add(std::move(command));
 }
 

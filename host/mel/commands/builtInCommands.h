@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // The families of built-in commands; each adds its rows to the table.
+//
+// A row without a count takes any number of objects, one without modes knows neither -query nor
+// -edit.
 #pragma once
 
 #include "mel/command.h"

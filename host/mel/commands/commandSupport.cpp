@@ -205,11 +205,10 @@ std::vector<DagPath> pathsOrSelection(Context &context, const Arguments &argumen
     return paths;
 }
 
-void requireObjectCount(const Arguments &arguments, std::string_view command, std::size_t least,
-                        std::size_t most)
+Command fileStatement(Command command)
 {
-    if (arguments.objects.size() < least || arguments.objects.size() > most)
-        throw Error("Wrong number of arguments on call to " + std::string(command) + '.');
+    command.isFileStatement = true;
+    return command;
 }
 
 double requireNumber(std::string_view text)

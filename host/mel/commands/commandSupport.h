@@ -57,9 +57,9 @@ std::vector<SelectionItem> objectsOrSelection(Context &context, const Arguments 
 std::vector<NodePtr> nodesOrSelection(Context &context, const Arguments &arguments);
 // The same as paths, each once. Refuses nodes outside the DAG.
 std::vector<DagPath> pathsOrSelection(Context &context, const Arguments &arguments);
-// Refuses a call with fewer or more operands: "Wrong number of arguments on call to NAME.".
-void requireObjectCount(const Arguments &arguments, std::string_view command, std::size_t least,
-                        std::size_t most);
+
+// The row with the mark that scene files may contain the command.
+Command fileStatement(Command command);
 
 // --- Values and results --------------------------------------------------------------------------
 

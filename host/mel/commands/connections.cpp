@@ -78,7 +78,6 @@ void requireComplete(const Plug &plug)
 
 MelValue connectAttr(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "connectAttr", 2, 2);
     const Plug source = requireConnectionEnd(context, arguments.objects[0].text);
     const Plug destination = destinationOf(context, arguments);
     requireComplete(source);
@@ -112,7 +111,6 @@ Plug connectedElement(const Plug &source, const Plug &array)
 
 MelValue disconnectAttr(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "disconnectAttr", 2, 2);
     const Plug source = requireConnectionEnd(context, arguments.objects[0].text);
     Plug destination = requireConnectionEnd(context, arguments.objects[1].text);
     if (arguments.has("nextAvailable") && destination.isWholeArray())
@@ -126,7 +124,6 @@ MelValue disconnectAttr(Context &context, const Arguments &arguments)
 
 MelValue isConnected(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "isConnected", 2, 2);
     const Plug source = requireConnectionEnd(context, arguments.objects[0].text);
     const Plug destination = requireConnectionEnd(context, arguments.objects[1].text);
     const Connection *existing = destination.node->source(destination);
@@ -224,25 +221,21 @@ MelValue listConnections(Context &context, const Arguments &arguments)
 
 void addConnectionCommands(CommandTable &table)
 {
-    Command connect{
-        "connectAttr", {{"f", "force"}, {"na", "nextAvailable"}, {"l", "lock", "b"}}, connectAttr};
-    connect.isFileStatement = true;
-    table.add(std::move(connect));
-    table.add({"disconnectAttr", {{"na", "nextAvailable"}}, disconnectAttr});
-    Command connected{"isConnected", {}, isConnected};
-    connected.isUndoable = false;
-    table.add(std::move(connected));
-    Command list{"listConnections",
-                 {{"s", "source", "b"},
-                  {"d", "destination", "b"},
-                  {"p", "plugs", "b"},
-                  {"c", "connections", "b"},
-                  {"t", "type", "s"},
-                  {"et", "exactType", "b"},
-                  {"sh", "shapes", "b"}},
-                 listConnections};
-    list.isUndoable = false;
-    table.add(std::move(list));
+    table.add(fileStatement({"connectAttr",
+                             {{"f", "force"}, {"na", "nextAvailable"}, {"l", "lock", "b"}},
+                             connectAttr,
+                             {2, 2}}));
+    table.add({"disconnectAttr", {{"na", "nextAvailable"}}, disconnectAttr, {2, 2}});
+    table.add({"isConnected", {}, isConnected, {2, 2}});
+    table.add({"listConnections",
+               {{"s", "source", "b"},
+                {"d", "destination", "b"},
+                {"p", "plugs", "b"},
+                {"c", "connections", "b"},
+                {"t", "type", "s"},
+                {"et", "exactType", "b"},
+                {"sh", "shapes", "b"}},
+               listConnections});
 }
 
 } // namespace host::mel

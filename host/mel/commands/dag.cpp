@@ -220,17 +220,15 @@ MelValue instanceable(Context &context, const Arguments &arguments)
 
 void addDagCommands(CommandTable &table)
 {
-    Command parent{"parent",
-                   {{"w", "world"},
-                    {"r", "relative"},
-                    {"a", "absolute"},
-                    {"s", "shape"},
-                    {"nc", "noConnections"},
-                    {"add", "addObject"},
-                    {"rm", "removeObject"}},
-                   parentCommand};
-    parent.isFileStatement = true;
-    table.add(std::move(parent));
+    table.add(fileStatement({"parent",
+                             {{"w", "world"},
+                              {"r", "relative"},
+                              {"a", "absolute"},
+                              {"s", "shape"},
+                              {"nc", "noConnections"},
+                              {"add", "addObject"},
+                              {"rm", "removeObject"}},
+                             parentCommand}));
     table.add({"group",
                {{"n", "name", "s"},
                 {"em", "empty"},
@@ -238,22 +236,18 @@ void addDagCommands(CommandTable &table)
                 {"w", "world"},
                 {"r", "relative"}},
                group});
-    Command relatives{"listRelatives",
-                      {{"s", "shapes"},
-                       {"p", "parent"},
-                       {"c", "children"},
-                       {"ad", "allDescendents"},
-                       {"ap", "allParents"},
-                       {"pa", "path"},
-                       {"f", "fullPath"},
-                       {"typ", "type", "s", Flag::multiUse},
-                       {"ni", "noIntermediate"}},
-                      listRelatives};
-    relatives.isUndoable = false;
-    table.add(std::move(relatives));
-    Command instance{"instanceable", {{"a", "allow", "b"}}, instanceable};
-    instance.isFileStatement = true;
-    table.add(std::move(instance));
+    table.add({"listRelatives",
+               {{"s", "shapes"},
+                {"p", "parent"},
+                {"c", "children"},
+                {"ad", "allDescendents"},
+                {"ap", "allParents"},
+                {"pa", "path"},
+                {"f", "fullPath"},
+                {"typ", "type", "s", Flag::multiUse},
+                {"ni", "noIntermediate"}},
+               listRelatives});
+    table.add(fileStatement({"instanceable", {{"a", "allow", "b"}}, instanceable}));
 }
 
 } // namespace host::mel

@@ -38,7 +38,6 @@ void disconnectAll(Scene &scene, const NodePtr &node, const Attribute &top)
 
 MelValue deleteAttr(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "deleteAttr", 1, 1);
     std::string name = arguments.objects.front().string();
     if (arguments.has("attribute"))
         name += '.' + arguments.string("attribute");
@@ -54,7 +53,6 @@ MelValue deleteAttr(Context &context, const Arguments &arguments)
 
 MelValue removeMultiInstance(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "removeMultiInstance", 1, 1);
     const Plug plug = requireSinglePlug(context, arguments.objects.front().text);
     if (!plug.isElement())
         throw Error("removeMultiInstance: '" + plug.name() + "' is no element of a multi.");
@@ -71,8 +69,8 @@ MelValue removeMultiInstance(Context &context, const Arguments &arguments)
 
 void addDeleteAttrCommands(CommandTable &table)
 {
-    table.add({"deleteAttr", {{"at", "attribute", "s"}}, deleteAttr});
-    table.add({"removeMultiInstance", {{"b", "break", "b"}}, removeMultiInstance});
+    table.add({"deleteAttr", {{"at", "attribute", "s"}}, deleteAttr, {1, 1}});
+    table.add({"removeMultiInstance", {{"b", "break", "b"}}, removeMultiInstance, {1, 1}});
 }
 
 } // namespace host::mel

@@ -50,8 +50,7 @@ const std::vector<Flag> kFlags = {
 
 std::string pathOperand(const Arguments &arguments)
 {
-    requireObjectCount(arguments, "file", 1, 1);
-    const std::string &path = arguments.objects.front().string();
+    const std::string path = arguments.objects.empty() ? "" : arguments.objects[0].string();
     if (path.empty())
         throw Error("file: No file name was given.");
     return ma::absolutePath(path);
@@ -233,9 +232,7 @@ MelValue file(Context &context, const Arguments &arguments)
 
 void addFileCommand(CommandTable &table)
 {
-    Command command{"file", kFlags, file};
-    command.isFileStatement = true;
-    table.add(std::move(command));
+    table.add(fileStatement({"file", kFlags, file, {0, 1}, Modes::create | Modes::query}));
 }
 
 } // namespace host::mel

@@ -18,7 +18,6 @@ const std::vector<Flag> kRequiresFlags = {{"nodeType", "nodeType", "s", Flag::mu
 
 MelValue requiresCommand(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "requires", 2, 2);
     FileFacts &facts = context.scene().facts;
     if (arguments.objects[0].text == "maya")
         facts.mayaVersion = arguments.objects[1].string();
@@ -128,7 +127,7 @@ MelValue fileInfo(Context &context, const Arguments &arguments)
             list.erase(found);
         return MelValue();
     }
-    requireObjectCount(arguments, "fileInfo", 2, 2);
+    requireObjectCount("fileInfo", arguments.objects.size(), {2, 2});
     const auto found = findInfo(list, arguments.objects[0].text);
     if (found != list.end())
         found->second = arguments.objects[1].string();
@@ -140,35 +139,32 @@ MelValue fileInfo(Context &context, const Arguments &arguments)
 // A statement that only a file may hold and that stands at its end.
 Command keptStatement(std::string name, std::vector<Flag> flags)
 {
-    Command command{name, flags, [name, flags](Context &context, const Arguments &arguments) {
-                        if (!context.isReadingFile)
-                            throw Error(name + ": Only a scene file may say this.");
-                        context.scene().facts.trailing.push_back(
-                            statementText(name, flags, arguments));
-                        return MelValue();
-                    }};
-    command.isFileStatement = true;
-    command.isUndoable = false;
-    return command;
-}
-
-Command fileStatement(Command command)
-{
-    command.isFileStatement = true;
-    command.isUndoable = false;
-    return command;
+    return fileStatement({name, flags, [name, flags](Context &context, const Arguments &arguments) {
+                              if (!context.isReadingFile)
+                                  throw Error(name + ": Only a scene file may say this.");
+                              context.scene().facts.trailing.push_back(
+                                  statementText(name, flags, arguments));
+                              return MelValue();
+                          }});
 }
 
 } // namespace
 
 void addFileStatementCommands(CommandTable &table)
 {
-    table.add(fileStatement({"requires", kRequiresFlags, requiresCommand}));
+    table.add(fileStatement({"requires", kRequiresFlags, requiresCommand, {2, 2}}));
     table.add(fileStatement(
         {"currentUnit",
          {{"l", "linear", "s"}, {"a", "angle", "s"}, {"t", "time", "s"}, {"f", "fullName"}},
-         currentUnit}));
-    table.add(fileStatement({"fileInfo", {{"rm", "remove", "s"}}, fileInfo}));
+         currentUnit,
+         {0, 0},
+         Modes::create | Modes::query}));
+    table.add(fileStatement({"fileInfo",
+                             {{"rm", "remove", "s"}},
+                             fileInfo,
+                             {0, 2},
+                             Modes::create | Modes::query,
+                             Objects{0, 1}}));
     table.add(keptStatement("relationship", {{"b", "break"}}));
     table.add(keptStatement("dataStructure", {{"fmt", "format", "s"}, {"as", "asString", "s"}}));
     table.add(keptStatement("applyMetadata",

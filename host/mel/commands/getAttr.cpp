@@ -116,9 +116,6 @@ MelValue valueOf(const PlugRange &range, const Arguments &arguments)
 
 MelValue getAttr(Context &context, const Arguments &arguments)
 {
-    if (arguments.objects.empty())
-        throw Error("getAttr: No attribute was specified.");
-    requireObjectCount(arguments, "getAttr", 1, 1);
     const PlugRange range = requirePlug(context, arguments.objects.front().text);
     for (const Question &question : kQuestions) {
         if (arguments.has(question.flag.longName))
@@ -131,10 +128,9 @@ MelValue getAttr(Context &context, const Arguments &arguments)
 
 void addGetAttrCommand(CommandTable &table)
 {
-    Command command{"getAttr", {{"as", "asString"}, {"sl", "silent"}}, getAttr};
+    Command command{"getAttr", {{"as", "asString"}, {"sl", "silent"}}, getAttr, {1, 1}};
     for (const Question &question : kQuestions)
         command.flags.push_back(question.flag);
-    command.isUndoable = false;
     table.add(std::move(command));
 }
 

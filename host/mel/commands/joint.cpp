@@ -157,11 +157,8 @@ MelValue joint(Context &context, const Arguments &arguments)
 
 void addJointCommands(CommandTable &table)
 {
-    Command command;
-    command.name = "joint";
-    command.flags = kFlags;
-    command.run = joint;
-    table.add(std::move(command));
+    table.add(
+        {"joint", kFlags, joint, {0, 0}, Modes::create | Modes::query | Modes::edit, Objects()});
 }
 
 } // namespace host::mel

@@ -107,7 +107,6 @@ void addListAttrCommand(CommandTable &table)
         "listAttr", {{"st", "string", "s", Flag::multiUse}, {"sn", "shortNames"}}, listAttr};
     for (const Filter &filter : kFilters)
         command.flags.push_back(filter.flag);
-    command.isUndoable = false;
     table.add(std::move(command));
 }
 

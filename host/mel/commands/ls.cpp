@@ -284,9 +284,7 @@ MelValue ls(Context &context, const Arguments &arguments)
 
 void addListCommand(CommandTable &table)
 {
-    Command command{"ls", kFlags, ls};
-    command.isUndoable = false;
-    table.add(std::move(command));
+    table.add({"ls", kFlags, ls});
 }
 
 } // namespace host::mel

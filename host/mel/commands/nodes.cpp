@@ -16,7 +16,6 @@ namespace
 
 MelValue createNode(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "createNode", 1, 1);
     const std::string_view type = arguments.objects.front().text;
     const std::string name = arguments.string("name");
     Scene &scene = context.scene();
@@ -117,7 +116,7 @@ MelValue renameCommand(Context &context, const Arguments &arguments)
 {
     if (arguments.has("uuid"))
         return setUuid(context, arguments);
-    requireObjectCount(arguments, "rename", 1, 2);
+    requireObjectCount("rename", arguments.objects.size(), {1, 2});
     const bool namesNode = arguments.objects.size() == 2;
     if (!namesNode && context.session.selection().isEmpty())
         throw Error("rename: No objects were specified and none is selected.");
@@ -160,7 +159,6 @@ MelValue lockNode(Context &context, const Arguments &arguments)
 
 MelValue objExists(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "objExists", 1, 1);
     const std::string_view name = arguments.objects.front().text;
     try {
         const bool exists =
@@ -173,7 +171,6 @@ MelValue objExists(Context &context, const Arguments &arguments)
 
 MelValue nodeType(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "nodeType", 1, 1);
     const std::vector<SelectionItem> items =
         requireName(context.scene(), arguments.objects.front().text);
     if (items.size() > 1)
@@ -187,18 +184,6 @@ MelValue nodeType(Context &context, const Arguments &arguments)
     return names;
 }
 
-Command fileStatement(Command command)
-{
-    command.isFileStatement = true;
-    return command;
-}
-
-Command query(Command command)
-{
-    command.isUndoable = false;
-    return command;
-}
-
 } // namespace
 
 void addNodeCommands(CommandTable &table)
@@ -206,13 +191,17 @@ void addNodeCommands(CommandTable &table)
     table.add(fileStatement(
         {"createNode",
          {{"n", "name", "s"}, {"p", "parent", "s"}, {"s", "shared"}, {"ss", "skipSelect"}},
-         createNode}));
+         createNode,
+         {1, 1}}));
     table.add({"delete", {{"all", "all"}, {"ch", "constructionHistory"}}, deleteCommand});
-    table.add(fileStatement({"rename", {{"uid", "uuid", "s"}}, renameCommand}));
-    table.add(fileStatement(
-        {"lockNode", {{"l", "lock", "b"}, {"lu", "lockUnpublished", "b"}}, lockNode}));
-    table.add(query({"objExists", {}, objExists}));
-    table.add(query({"nodeType", {{"i", "inherited"}}, nodeType}));
+    table.add(fileStatement({"rename", {{"uid", "uuid", "s"}}, renameCommand, {0, 2}}));
+    table.add(fileStatement({"lockNode",
+                             {{"l", "lock", "b"}, {"lu", "lockUnpublished", "b"}},
+                             lockNode,
+                             {},
+                             Modes::create | Modes::query}));
+    table.add({"objExists", {}, objExists, {1, 1}});
+    table.add({"nodeType", {{"i", "inherited"}}, nodeType, {1, 1}});
 }
 
 } // namespace host::mel

@@ -220,7 +220,6 @@ SkinPaintTool edited(Context &context, const Arguments &arguments)
 
 MelValue paintContext(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "artAttrSkinPaintCtx", 1, 1);
     if (!arguments.isEdit() && !arguments.isQuery())
         throw Error("There is one context for painting skin weights: use -edit or -query.");
     requirePaintContext(context, arguments.objects[0]);
@@ -238,9 +237,8 @@ MelValue paintContext(Context &context, const Arguments &arguments)
     return {};
 }
 
-MelValue enterTool(Context &context, const Arguments &arguments)
+MelValue enterTool(Context &context, const Arguments &)
 {
-    requireObjectCount(arguments, "ArtPaintSkinWeightsTool", 0, 0);
     context.session.tools().enter(kSkinPaintContext);
     return {};
 }
@@ -248,22 +246,19 @@ MelValue enterTool(Context &context, const Arguments &arguments)
 // The number says which windows to show along; there are none.
 MelValue toolScript(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "artAttrSkinToolScript", 1, 1);
     arguments.objects[0].integer(); // refuses what is no number
     context.session.tools().enter(kSkinPaintContext);
     return {};
 }
 
 // Fills a menu of the tool's window.
-MelValue jointMenu(Context &, const Arguments &arguments)
+MelValue jointMenu(Context &, const Arguments &)
 {
-    requireObjectCount(arguments, "artAttrSkinJointMenu", 2, 2);
     return {};
 }
 
 MelValue paintOperation(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "artAttrPaintOperation", 2, 2);
     requirePaintContext(context, arguments.objects[0]);
     const std::string_view word = arguments.objects[1].text;
     for (const OperationName &row : kOperations) {
@@ -280,7 +275,6 @@ MelValue paintOperation(Context &context, const Arguments &arguments)
 // The third operand is the text that the tool's window shows for the joint.
 MelValue selectInfluence(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "artSkinSelectInfluence", 2, 3);
     requirePaintContext(context, arguments.objects[0]);
     SkinPaintTool tool = context.session.tools().skinPaint();
     setInfluence(context, tool, arguments.objects[1].text);
@@ -299,15 +293,15 @@ void addPaintToolCommands(CommandTable &table)
         command.flags.push_back(setting.flag);
     command.flags.insert(command.flags.end(), std::begin(kDisplayFlags), std::end(kDisplayFlags));
     command.run = paintContext;
+    command.objects = {1, 1};
+    command.modes = Modes::create | Modes::query | Modes::edit;
     table.add(std::move(command));
 
-    const Command procedures[] = {{"ArtPaintSkinWeightsTool", {}, enterTool},
-                                  {"artAttrSkinToolScript", {}, toolScript},
-                                  {"artAttrSkinJointMenu", {}, jointMenu, false},
-                                  {"artAttrPaintOperation", {}, paintOperation},
-                                  {"artSkinSelectInfluence", {}, selectInfluence}};
-    for (const Command &procedure : procedures)
-        table.add(procedure);
+    table.add({"ArtPaintSkinWeightsTool", {}, enterTool, {0, 0}});
+    table.add({"artAttrSkinToolScript", {}, toolScript, {1, 1}});
+    table.add({"artAttrSkinJointMenu", {}, jointMenu, {2, 2}});
+    table.add({"artAttrPaintOperation", {}, paintOperation, {2, 2}});
+    table.add({"artSkinSelectInfluence", {}, selectInfluence, {2, 3}});
 }
 
 } // namespace host::mel

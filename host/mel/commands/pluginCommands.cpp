@@ -116,7 +116,6 @@ PluginInfo requireLoaded(Context &context, std::string_view text)
 
 MelValue loadPlugin(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "loadPlugin", 1, kMaxElements);
     PluginLoader &loader = loaderOf(context);
     std::vector<std::string> loaded;
     for (const Operand &operand : arguments.objects) {
@@ -145,7 +144,6 @@ void release(Context &context, const std::string &name, bool force)
 
 MelValue unloadPlugin(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "unloadPlugin", 1, kMaxElements);
     const bool force = arguments.has("force");
     std::vector<std::string> unloaded;
     for (const Operand &operand : arguments.objects) {
@@ -188,7 +186,7 @@ MelValue pluginInfo(Context &context, const Arguments &arguments)
             names.push_back(info.name);
         return names;
     }
-    requireObjectCount(arguments, "pluginInfo", 1, 1);
+    requireObjectCount("pluginInfo", arguments.objects.size(), {1, 1});
     const std::string_view name = arguments.objects[0].text;
     if (arguments.has("loaded"))
         return static_cast<long long>(findLoaded(loaderOf(context).plugins(), name) != nullptr);
@@ -203,24 +201,17 @@ MelValue pluginInfo(Context &context, const Arguments &arguments)
 
 void addPluginCommands(CommandTable &table)
 {
-    Command command;
-    command.isUndoable = false;
-    command.name = "loadPlugin";
-    command.flags = {{"qt", "quiet"}, {"n", "name", "s"}};
-    command.run = loadPlugin;
-    table.add(command);
-
-    command.name = "unloadPlugin";
-    command.flags = {{"f", "force"}};
-    command.run = unloadPlugin;
-    table.add(command);
-
-    command.name = "pluginInfo";
-    command.flags = {{"ls", "listPlugins"}, {"l", "loaded"}};
+    const Objects some = {1, Objects::kAny};
+    table.add({"loadPlugin", {{"qt", "quiet"}, {"n", "name", "s"}}, loadPlugin, some});
+    table.add({"unloadPlugin", {{"f", "force"}}, unloadPlugin, some});
+    Command info{"pluginInfo",
+                 {{"ls", "listPlugins"}, {"l", "loaded"}},
+                 pluginInfo,
+                 {0, 1},
+                 Modes::create | Modes::query};
     for (const InfoFlag &row : kInfoFlags)
-        command.flags.push_back(row.flag);
-    command.run = pluginInfo;
-    table.add(command);
+        info.flags.push_back(row.flag);
+    table.add(std::move(info));
 }
 
 } // namespace host::mel

@@ -152,7 +152,6 @@ MelValue create(Context &context, const Arguments &arguments, const PrimitiveCom
 
 MelValue query(Context &context, const Arguments &arguments, const PrimitiveCommand &command)
 {
-    requireObjectCount(arguments, command.name, 1, 1);
     const NodePtr primitive = requireNodeOfType(context, arguments.objects[0].text, command.name);
     for (const PrimitiveFlag &row : command.flags) {
         if (!arguments.has(row.flag.longName))
@@ -171,7 +170,6 @@ MelValue run(Context &context, const Arguments &arguments, const PrimitiveComman
     checkFlags(context, arguments, command);
     if (!arguments.isEdit())
         return create(context, arguments, command);
-    requireObjectCount(arguments, command.name, 1, 1);
     applyFlags(context, arguments, command,
                requireNodeOfType(context, arguments.objects[0].text, command.name));
     return {};
@@ -191,6 +189,9 @@ void addPrimitiveCommands(CommandTable &table)
         command.run = [&primitive](Context &context, const Arguments &arguments) {
             return run(context, arguments, primitive);
         };
+        command.objects = {0, 0};
+        command.modes = Modes::create | Modes::query | Modes::edit;
+        command.targets = {1, 1};
         table.add(std::move(command));
     }
 }

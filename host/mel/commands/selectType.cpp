@@ -122,6 +122,8 @@ void addSelectTypeCommands(CommandTable &table)
     const PickableState state = std::make_shared<Pickable>();
     Command command;
     command.name = "selectType";
+    command.objects = {0, 0};
+    command.modes = Modes::create | Modes::query;
     command.flags = {
         {"ocm", "objectComponent"}, {"alc", "allComponents", "b"}, {"alo", "allObjects", "b"}};
     for (const MaskFlag &row : kMasks)

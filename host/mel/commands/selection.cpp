@@ -201,23 +201,13 @@ MelValue selectPref(Context &context, const Arguments &arguments)
 
 void addSelectionCommands(CommandTable &table)
 {
-    Command command;
-    command.name = "select";
-    command.flags = kSelectFlags;
-    command.run = select;
-    table.add(command);
-
-    command.name = "hilite";
-    command.flags = {{"r", "replace"}, {"tgl", "toggle"}, {"u", "unHilite"}};
-    command.run = hilite;
-    table.add(command);
-
-    command.name = "selectPref";
-    command.flags = {{"tso", "trackSelectionOrder", "b"}};
-    command.run = selectPref;
-    command.isUndoable = false;
-    table.add(command);
-
+    table.add({"select", kSelectFlags, select});
+    table.add({"hilite", {{"r", "replace"}, {"tgl", "toggle"}, {"u", "unHilite"}}, hilite});
+    table.add({"selectPref",
+               {{"tso", "trackSelectionOrder", "b"}},
+               selectPref,
+               {0, 0},
+               Modes::create | Modes::query});
     addSelectTypeCommands(table);
 }
 

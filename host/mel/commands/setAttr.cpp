@@ -143,8 +143,6 @@ bool belongsToFile(const Node &node)
 
 MelValue setAttr(Context &context, const Arguments &arguments)
 {
-    if (arguments.objects.empty())
-        throw Error("setAttr: No attribute was specified.");
     const std::string_view name = arguments.objects.front().text;
     const PlugRange range = requirePlugToWrite(context, name);
     const std::string type = arguments.string("type");
@@ -175,9 +173,7 @@ MelValue setAttr(Context &context, const Arguments &arguments)
 
 void addSetAttrCommand(CommandTable &table)
 {
-    Command command{"setAttr", kFlags, setAttr};
-    command.isFileStatement = true;
-    table.add(std::move(command));
+    table.add(fileStatement({"setAttr", kFlags, setAttr, {1, Objects::kAny}}));
 }
 
 } // namespace host::mel

@@ -200,12 +200,9 @@ MelValue createSkinCluster(Context &context, const Arguments &arguments)
 
 void addSkinClusterCommands(CommandTable &table)
 {
-    Command command;
-    command.name = "skinCluster";
-    command.flags = kFlags;
+    Command command{"skinCluster", kFlags, run, {}, Modes::create | Modes::query | Modes::edit};
     for (const SkinSetting &setting : skinSettings())
         command.flags.push_back(setting.flag);
-    command.run = run;
     table.add(std::move(command));
 }
 

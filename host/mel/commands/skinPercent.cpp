@@ -60,7 +60,6 @@ std::vector<SelectionItem> componentItems(Context &context, const Arguments &arg
 
 Call takeCall(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "skinPercent", 1, kMaxElements);
     Call call{context,
               arguments,
               SkinCluster(requireNodeOfType(context, arguments.objects[0].text, "skinCluster")),
@@ -220,11 +219,8 @@ MelValue skinPercent(Context &context, const Arguments &arguments)
 
 void addSkinPercentCommands(CommandTable &table)
 {
-    Command command;
-    command.name = "skinPercent";
-    command.flags = kFlags;
-    command.run = skinPercent;
-    table.add(std::move(command));
+    table.add(
+        {"skinPercent", kFlags, skinPercent, {1, Objects::kAny}, Modes::create | Modes::query});
 }
 
 } // namespace host::mel

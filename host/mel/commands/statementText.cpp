@@ -6,26 +6,12 @@
 namespace host::mel
 {
 
-namespace
-{
-
-const char *shortNameOf(const std::vector<Flag> &flags, std::string_view longName)
-{
-    for (const Flag &flag : flags) {
-        if (flag.longName == longName)
-            return flag.shortName;
-    }
-    return "";
-}
-
-} // namespace
-
 std::string statementText(std::string_view command, const std::vector<Flag> &flags,
                           const Arguments &arguments)
 {
     std::string text(command);
     for (const auto &[name, use] : arguments.order) {
-        text += std::string(" -") + shortNameOf(flags, name);
+        text += " -" + findFlag(flags, name)->shortName;
         for (const Operand &operand : arguments.of(name, use))
             text += ' ' + written(operand);
     }

@@ -28,14 +28,12 @@ MelValue print(Context &context, const Arguments &arguments)
 
 MelValue warning(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "warning", 1, 1);
     context.session.output().warning(arguments.objects.front().string());
     return MelValue();
 }
 
 MelValue error(Context &, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "error", 1, 1);
     throw Error(arguments.objects.front().string());
 }
 
@@ -64,24 +62,19 @@ MelValue refresh(Context &, const Arguments &)
     return MelValue();
 }
 
-void addCommand(CommandTable &table, Command command)
-{
-    command.isUndoable = false;
-    table.add(std::move(command));
-}
-
 } // namespace
 
 void addSystemCommands(CommandTable &table)
 {
-    addCommand(table, {"print", {}, print});
-    addCommand(table, {"warning", {}, warning});
-    addCommand(table, {"error", {}, error});
-    addCommand(table, {"quit", {{"f", "force"}, {"a", "abort"}, {"ec", "exitCode", "i"}}, quit});
-    addCommand(table, {"about", {{"b", "batch"}, {"v", "version"}, {"api", "apiVersion"}}, about});
-    addCommand(
-        table,
-        {"refresh", {{"f", "force"}, {"cv", "currentView"}, {"su", "suspend", "b"}}, refresh});
+    table.add({"print", {}, print});
+    table.add({"warning", {}, warning, {1, 1}});
+    table.add({"error", {}, error, {1, 1}});
+    table.add({"quit", {{"f", "force"}, {"a", "abort"}, {"ec", "exitCode", "i"}}, quit, {0, 0}});
+    table.add({"about", {{"b", "batch"}, {"v", "version"}, {"api", "apiVersion"}}, about, {0, 0}});
+    table.add({"refresh",
+               {{"f", "force"}, {"cv", "currentView"}, {"su", "suspend", "b"}},
+               refresh,
+               {0, 0}});
 }
 
 } // namespace host::mel

@@ -10,15 +10,13 @@ namespace host::mel
 namespace
 {
 
-MelValue currentContext(Context &context, const Arguments &arguments)
+MelValue currentContext(Context &context, const Arguments &)
 {
-    requireObjectCount(arguments, "currentCtx", 0, 0);
     return context.session.tools().current();
 }
 
 MelValue setTool(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "setToolTo", 1, 1);
     ToolState &tools = context.session.tools();
     const std::string name = arguments.objects[0].string();
     const std::string known = tools.contextNamed(name);
@@ -30,7 +28,6 @@ MelValue setTool(Context &context, const Arguments &arguments)
 
 MelValue contextInfo(Context &context, const Arguments &arguments)
 {
-    requireObjectCount(arguments, "contextInfo", 1, 1);
     if (!arguments.has("exists"))
         throw Error("No flag to query was given.");
     const std::string known = context.session.tools().contextNamed(arguments.objects[0].text);
@@ -41,11 +38,9 @@ MelValue contextInfo(Context &context, const Arguments &arguments)
 
 void addToolCommands(CommandTable &table)
 {
-    const Command commands[] = {{"currentCtx", {}, currentContext, false},
-                                {"setToolTo", {}, setTool},
-                                {"contextInfo", {{"ex", "exists"}}, contextInfo, false}};
-    for (const Command &command : commands)
-        table.add(command);
+    table.add({"currentCtx", {}, currentContext, {0, 0}});
+    table.add({"setToolTo", {}, setTool, {1, 1}});
+    table.add({"contextInfo", {{"ex", "exists"}}, contextInfo, {1, 1}});
 }
 
 } // namespace host::mel

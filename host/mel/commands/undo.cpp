@@ -128,28 +128,24 @@ MelValue flushUndo(Context &context, const Arguments &)
     return MelValue();
 }
 
-void addCommand(CommandTable &table, Command command)
-{
-    command.isUndoable = false;
-    table.add(std::move(command));
-}
-
 } // namespace
 
 void addUndoCommands(CommandTable &table)
 {
-    addCommand(table, {"undo", {}, undo});
-    addCommand(table, {"redo", {}, redo});
-    addCommand(table, {"flushUndo", {}, flushUndo});
+    table.add({"undo", {}, undo, {0, 0}});
+    table.add({"redo", {}, redo, {0, 0}});
+    table.add({"flushUndo", {}, flushUndo, {0, 0}});
     const auto chunks = std::make_shared<ManualChunks>();
     Command info{"undoInfo",
                  {{"ock", "openChunk"}, {"cck", "closeChunk"}, {"cn", "chunkName", "s"}},
                  [chunks](Context &context, const Arguments &arguments) {
                      return undoInfo(context, arguments, *chunks);
-                 }};
+                 },
+                 {0, 0},
+                 Modes::create | Modes::query};
     for (const Question &question : kQuestions)
         info.flags.push_back(question.flag);
-    addCommand(table, std::move(info));
+    table.add(std::move(info));
 }
 
 } // namespace host::mel

@@ -271,7 +271,9 @@ void addXformCommand(CommandTable &table)
     Command command{
         "xform",
         {{"ws", "worldSpace"}, {"os", "objectSpace"}, {"r", "relative"}, {"a", "absolute"}},
-        xform};
+        xform,
+        {},
+        Modes::create | Modes::query};
     for (const Property &property : kProperties)
         command.flags.push_back(property.flag);
     table.add(std::move(command));
