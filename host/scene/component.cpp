@@ -41,6 +41,16 @@ std::vector<std::string> Component::ranges() const
     return result;
 }
 
+std::vector<std::string> Component::singles() const
+{
+    std::vector<std::string> result;
+    result.reserve(elements.size());
+    const std::string start = std::string(componentWord(kind)) + '[';
+    for (const int element : elements)
+        result.push_back(start + std::to_string(element) + ']');
+    return result;
+}
+
 void Component::merge(const Component &other)
 {
     // Vertices that are named one by one mostly ascend.

@@ -17,6 +17,7 @@ struct Component {
 
     // Ascending ranges as Maya writes them: "vtx[0]", "vtx[50:60]".
     std::vector<std::string> ranges() const;
+    std::vector<std::string> singles() const; // "vtx[50]", "vtx[51]", ...
     // Takes the elements of `other` in. REQUIRES: the same kind.
     void merge(const Component &other);
     void remove(const Component &other);

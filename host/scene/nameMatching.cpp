@@ -174,6 +174,7 @@ bool splitComponent(std::string_view text, ComponentKind &kind, std::string_view
     return parseComponentWord(text.substr(0, bracket), kind);
 }
 
+// That numbers beyond the mesh are refused instead of cut off is a guess.
 SelectionItem componentItem(const SelectionItem &object, ComponentKind kind, std::string_view range,
                             std::string_view name)
 {
@@ -198,6 +199,24 @@ SelectionItem plugItem(const SelectionItem &object, std::string_view path)
     return item;
 }
 
+// Of the objects that a pattern finds only those that have the attribute or component; a shape that
+// is found by its transform as well counts once.
+template <typename Meaning>
+std::vector<SelectionItem> wherePossible(const std::vector<SelectionItem> &objects, Meaning meant)
+{
+    std::vector<SelectionItem> items;
+    std::set<std::vector<NodePtr>> shapes;
+    for (const SelectionItem &object : objects) {
+        try {
+            SelectionItem item = meant(object);
+            if (!item.component || shapes.insert(item.path.nodes()).second)
+                items.push_back(std::move(item));
+        } catch (const Error &) { // "*.liw" skips what has none
+        }
+    }
+    return items;
+}
+
 } // namespace
 
 std::vector<SelectionItem> matchName(const Scene &scene, std::string_view pattern)
@@ -210,9 +229,13 @@ std::vector<SelectionItem> matchName(const Scene &scene, std::string_view patter
     ComponentKind kind = ComponentKind::vertex;
     std::string_view range;
     const bool isComponent = splitComponent(rest, kind, range);
-    for (SelectionItem &object : objects)
-        object = isComponent && object.node->isDag() ? componentItem(object, kind, range, pattern)
-                                                     : plugItem(object, rest);
+    const auto meant = [&](const SelectionItem &object) {
+        return isComponent && object.node->isDag() ? componentItem(object, kind, range, pattern)
+                                                   : plugItem(object, rest);
+    };
+    if (hasWildcard(pattern.substr(0, dot)))
+        return wherePossible(objects, meant);
+    std::transform(objects.begin(), objects.end(), objects.begin(), meant);
     return objects;
 }
 

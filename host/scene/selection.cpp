@@ -38,7 +38,7 @@ bool SelectionItem::operator==(const SelectionItem &other) const
     return sameObject(other) && component == other.component && (!isPlug() || plug == other.plug);
 }
 
-std::vector<std::string> SelectionItem::names(bool fullPaths) const
+std::vector<std::string> SelectionItem::names(bool fullPaths, bool isFlat) const
 {
     if (isPlug())
         return {plug.name()};
@@ -48,7 +48,7 @@ std::vector<std::string> SelectionItem::names(bool fullPaths) const
         return {fullPaths ? path.fullName() : path.partialName()};
     const std::string owner = componentOwner(path, fullPaths);
     std::vector<std::string> names;
-    for (const std::string &range : component->ranges())
+    for (const std::string &range : isFlat ? component->singles() : component->ranges())
         names.push_back(owner + '.' + range);
     return names;
 }

@@ -28,8 +28,9 @@ struct SelectionItem {
     bool isPlug() const { return !plug.isNull(); }
     bool sameObject(const SelectionItem &other) const; // component and plug left aside
     bool operator==(const SelectionItem &other) const;
-    // Names as `ls` gives them, shortest unique; a component gives one per contiguous range.
-    std::vector<std::string> names(bool fullPaths = false) const;
+    // Names as `ls` gives them, shortest unique; a component gives one per contiguous range, with
+    // `isFlat` one per element.
+    std::vector<std::string> names(bool fullPaths = false, bool isFlat = false) const;
 };
 
 class SelectionList

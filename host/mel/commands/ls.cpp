@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // ls: names of nodes, of what is selected, of what matches a pattern.
 #include <algorithm>
+#include <set>
+#include <unordered_map>
 #include <unordered_set>
 
 #include "mel/commands/builtInCommands.h"
@@ -89,6 +91,20 @@ Items matches(const Scene &scene, std::string_view pattern, bool isRecursive)
     return items;
 }
 
+Items selectedOf(const Items &items, const SelectionList &selection)
+{
+    std::unordered_map<const Node *, SelectionList> ofNode;
+    for (const SelectionItem &item : selection.items())
+        ofNode[item.node.get()].append(item);
+    Items selected;
+    for (const SelectionItem &item : items) {
+        const auto found = ofNode.find(item.node.get());
+        if (found != ofNode.end() && found->second.has(item))
+            selected.push_back(item);
+    }
+    return selected;
+}
+
 Items listed(Context &context, const Arguments &arguments)
 {
     const Session &session = context.session;
@@ -103,11 +119,7 @@ Items listed(Context &context, const Arguments &arguments)
     if (arguments.has("selection")) {
         if (arguments.objects.empty())
             return session.selection().items();
-        const auto isUnselected = [&session](const SelectionItem &item) {
-            return !session.selection().has(item);
-        };
-        items.erase(std::remove_if(items.begin(), items.end(), isUnselected), items.end());
-        return items;
+        return selectedOf(items, session.selection());
     }
     return arguments.objects.empty() ? allNodes(context.scene()) : items;
 }
@@ -184,28 +196,11 @@ bool isKept(const SelectionItem &item, const Arguments &arguments)
     });
 }
 
-// "pCube1.vtx[0:2]" as one item per vertex.
-Items flattened(const Items &items)
-{
-    Items single;
-    for (const SelectionItem &item : items) {
-        if (!item.component) {
-            single.push_back(item);
-            continue;
-        }
-        for (int element : item.component->elements) {
-            SelectionItem one = item;
-            one.component->elements = {element};
-            single.push_back(std::move(one));
-        }
-    }
-    return single;
-}
-
+// Each path of a node once, where the node comes first.
 Items withAllPaths(const Items &items)
 {
     Items all;
-    for (const SelectionItem &item : items) {
+    for (const SelectionItem &item : oncePerNode(items)) {
         if (item.path.isNull() || item.component || item.isPlug()) {
             all.push_back(item);
             continue;
@@ -219,41 +214,54 @@ Items withAllPaths(const Items &items)
 Items objectsOnly(const Items &items)
 {
     Items objects;
-    for (SelectionItem item : items) {
-        item.component.reset();
-        item.plug = Plug();
-        const auto isSame = [&item](const SelectionItem &other) { return other == item; };
-        if (std::none_of(objects.begin(), objects.end(), isSame))
-            objects.push_back(std::move(item));
+    std::set<std::pair<const Node *, std::vector<NodePtr>>> seen;
+    for (const SelectionItem &item : items) {
+        if (seen.emplace(item.node.get(), item.path.nodes()).second)
+            objects.push_back(item.path.isNull() ? itemOf(item.node) : itemOf(item.path));
     }
     return objects;
 }
 
-void cutEnds(Items &items, const Arguments &arguments)
-{
-    const auto limit = [&items, &arguments](const char *flag) {
-        const auto count = std::size_t(std::max(0LL, arguments.integer(flag, 0)));
-        return long(std::min(count, items.size()));
-    };
-    if (arguments.has("head"))
-        items.erase(items.begin() + limit("head"), items.end());
-    if (arguments.has("tail"))
-        items.erase(items.begin(), items.end() - limit("tail"));
-}
+// One name of the answer.
+struct Entry {
+    std::string name;
+    const Node *node;
+};
 
-std::vector<std::string> namesOf(const Items &items, const Arguments &arguments)
+std::vector<Entry> entriesOf(const Items &items, const Arguments &arguments)
 {
-    std::vector<std::string> names;
+    std::vector<Entry> entries;
     for (const SelectionItem &item : items) {
         if (arguments.has("uuid")) {
-            names.push_back(item.node->uuid());
+            entries.push_back({item.node->uuid(), item.node.get()});
             continue;
         }
-        for (std::string &name : item.names(arguments.has("long"))) {
-            names.push_back(std::move(name));
-            if (arguments.has("showType"))
-                names.push_back(item.node->type().name);
-        }
+        for (std::string &name : item.names(arguments.has("long"), arguments.has("flatten")))
+            entries.push_back({std::move(name), item.node.get()});
+    }
+    return entries;
+}
+
+void cutEnds(std::vector<Entry> &entries, const Arguments &arguments)
+{
+    const auto limit = [&entries, &arguments](const char *flag) {
+        const auto count = std::size_t(std::max(0LL, arguments.integer(flag, 0)));
+        return long(std::min(count, entries.size()));
+    };
+    if (arguments.has("head"))
+        entries.erase(entries.begin() + limit("head"), entries.end());
+    if (arguments.has("tail"))
+        entries.erase(entries.begin(), entries.end() - limit("tail"));
+}
+
+std::vector<std::string> namesOf(std::vector<Entry> entries, bool showsType)
+{
+    std::vector<std::string> names;
+    names.reserve(entries.size());
+    for (Entry &entry : entries) {
+        names.push_back(std::move(entry.name));
+        if (showsType)
+            names.push_back(entry.node->type().name);
     }
     return names;
 }
@@ -274,10 +282,11 @@ MelValue ls(Context &context, const Arguments &arguments)
         items = objectsOnly(items);
     if (arguments.has("allPaths"))
         items = withAllPaths(items);
-    if (arguments.has("flatten"))
-        items = flattened(items);
-    cutEnds(items, arguments);
-    return namesOf(items, arguments);
+    else if (arguments.has("dagObjects"))
+        items = oncePerNode(items);
+    std::vector<Entry> entries = entriesOf(items, arguments);
+    cutEnds(entries, arguments);
+    return namesOf(std::move(entries), arguments.has("showType"));
 }
 
 } // namespace
