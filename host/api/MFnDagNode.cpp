@@ -109,6 +109,7 @@ MObject MFnDagNode::create(const MString &type, const MString &name, MObject &pa
             throw host::Error("no DAG node type");
         const host::RecordingPause pause(scene);
         object = host::toObject(scene.createNode(host::view(type), host::view(name), above));
+        host::announceChanges();
     });
     return answer(ReturnStatus, status ? setObject(object) : status, object);
 }

@@ -85,6 +85,7 @@ MObject MFnDependencyNode::create(const MString &type, const MString &name, MSta
         host::Scene &scene = process->session().scene();
         const host::RecordingPause pause(scene);
         object = host::toObject(scene.createNode(host::view(type), host::view(name)));
+        host::announceChanges();
     });
     return answer(ReturnStatus, status ? setObject(object) : status, object);
 }
@@ -110,6 +111,7 @@ MString MFnDependencyNode::setName(const MString &name, bool, MStatus *ReturnSta
     const MStatus status = host::loudly([&] {
         const host::RecordingPause pause(*node->scene());
         given = host::toMString(node->scene()->rename(node, host::view(name)));
+        host::announceChanges();
     });
     return answer(ReturnStatus, status, given);
 }

@@ -3,6 +3,10 @@
 
 #include <iostream>
 
+#include <QCoreApplication>
+#include <QStringList>
+#include <QTimer>
+
 #include "api/status.h"
 
 namespace host
@@ -23,6 +27,26 @@ void printMessage(const std::string &text, MessageKind kind)
     if (line.empty() || line.back() != '\n')
         stream << '\n';
     stream.flush();
+}
+
+// Maya's releases differ in when they deliver an event, and a plug-in has to stand both. The events
+// that the environment variable KORVEX_DEFERRED_EVENTS names ("SelectionChanged") come when Qt's
+// event loop runs next, all others inside the call that raises them.
+void deferEvents(Events &events)
+{
+    const QStringList names =
+        qEnvironmentVariable("KORVEX_DEFERRED_EVENTS").split(' ', Qt::SkipEmptyParts);
+    if (names.isEmpty())
+        return;
+    std::vector<std::string> deferred;
+    for (const QString &name : names)
+        deferred.push_back(name.toStdString());
+    events.defer(std::move(deferred), [] {
+        QTimer::singleShot(0, QCoreApplication::instance(), [] {
+            if (Process *process = Process::current())
+                process->session().events().flush();
+        });
+    });
 }
 
 } // namespace
@@ -54,18 +78,27 @@ Process::Process(Session::Mode mode, bool printsOutput)
     interpreter_.pluginLoader = &plugins_;
     if (printsOutput)
         session_.output().addListener(printMessage);
+    deferEvents(session_.events());
 }
 
 Process::~Process() = default;
 
 void Process::runIdleCommands()
 {
+    session_.events().raise("idleHigh");
+    session_.events().raise("idle");
     std::deque<std::string> commands;
     commands.swap(idleCommands_);
     mel::RunOptions options;
     options.undo = true;
     for (const std::string &command : commands)
         interpreter_.run(command, options);
+}
+
+void announceChanges()
+{
+    if (Process *process = Process::current())
+        process->session().announceChanges();
 }
 
 void showInfo(const std::string &text)

@@ -62,4 +62,7 @@ private:
     std::deque<std::string> idleCommands_;
 };
 
+// The events of what a call of the API changed, if a session runs; see Session::announceChanges.
+void announceChanges();
+
 } // namespace host

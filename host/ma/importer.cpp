@@ -10,6 +10,7 @@
 #include "ma/sceneWriter.h"
 #include "ma/sessionMark.h"
 #include "scene/error.h"
+#include "scene/uuid.h"
 
 namespace host::ma
 {
@@ -27,19 +28,25 @@ void forceName(Scene &scene, const NodePtr &node, const std::string &name)
     scene.setNodeLock(node, isLocked, isLockUnpublished);
 }
 
-// "hip", "hip1", "hip2", ...: the first that neither scene has.
-std::string freeName(const Scene &imported, const Scene &target, const std::string &wanted)
+// Names that neither scene has.
+class FreeNames
 {
-    if (target.nodesNamed(wanted).empty())
-        return wanted;
-    const std::string stem = wanted.substr(0, wanted.find_last_not_of("0123456789") + 1);
-    unsigned number = 1;
-    std::string name;
-    do {
-        name = stem + std::to_string(number++);
-    } while (!target.nodesNamed(name).empty() || !imported.nodesNamed(name).empty());
-    return name;
-}
+public:
+    FreeNames(const Scene &imported, const Scene &target) : imported_(imported), target_(target) {}
+    std::string of(const std::string &wanted)
+    {
+        if (target_.nodesNamed(wanted).empty())
+            return wanted;
+        return numbers_.next(wanted, [this](const std::string &name) {
+            return !target_.nodesNamed(name).empty() || !imported_.nodesNamed(name).empty();
+        });
+    }
+
+private:
+    const Scene &imported_;
+    const Scene &target_;
+    NumberedNames numbers_;
+};
 
 // Shared nodes (the default cameras, lightLinker1) stand for those of the same name.
 std::vector<NodePtr> presentNodes(const Scene &imported, const Scene &target)
@@ -59,13 +66,14 @@ void giveFreeNames(Scene &imported, const Scene &target, const std::string &name
         uuids.insert(node->uuid());
     std::vector<std::pair<NodePtr, std::string>> wanted;
     for (const NodePtr &node : imported.nodes()) {
-        if (uuids.count(node->uuid()) > 0)
-            imported.setUuid(node, "");
+        if (node->uuid().empty() || uuids.count(node->uuid()) > 0)
+            imported.setUuid(node, newUuid());
         if (!node->isDefault() && !node->isShared())
             wanted.emplace_back(node, (nameSpace.empty() ? "" : nameSpace + ':') + node->name());
     }
+    FreeNames names(imported, target);
     for (const auto &[node, name] : wanted)
-        forceName(imported, node, freeName(imported, target, name));
+        forceName(imported, node, names.of(name));
 }
 
 // Plug-ins' default nodes may be missing in the target; then their connections are.

@@ -210,8 +210,10 @@ void Reader::reportProgress()
 std::unique_ptr<Scene> readFile(mel::Interpreter &interpreter, const std::string &path)
 {
     auto scene = std::make_unique<Scene>();
+    scene->setGivesUuids(false);
     Reader reader(interpreter, path, *scene);
     reader.run();
+    scene->setGivesUuids(true);
     scene->setModified(false);
     return scene;
 }

@@ -52,7 +52,9 @@ MelValue Interpreter::callCommand(Context &context, const Statement &statement)
     UndoQueue &undo = session_.undo();
     const std::size_t stepsBefore = undo.openSteps();
     try {
-        return command->run(context, arguments);
+        MelValue result = command->run(context, arguments);
+        session_.announceChanges();
+        return result;
     } catch (...) {
         if (undo.openSteps() > stepsBefore)
             undo.rollback(stepsBefore);

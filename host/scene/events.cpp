@@ -20,7 +20,6 @@ const std::vector<std::string> &Events::names()
         "deleteAll",
         "Undo",
         "Redo",
-        "timeChanged",
         "idle",
         "idleHigh",
         "quitApplication",
@@ -61,10 +60,22 @@ bool Events::remove(Id id)
 void Events::raise(std::string_view event)
 {
     const std::string name(event);
-    if (!isDeferred_)
+    const auto has = [&name](const std::vector<std::string> &names) {
+        return std::find(names.begin(), names.end(), name) != names.end();
+    };
+    if (!has(deferred_)) {
         deliver(name);
-    else if (std::find(pending_.begin(), pending_.end(), name) == pending_.end())
+    } else if (!has(pending_)) {
         pending_.push_back(name);
+        if (pending_.size() == 1)
+            wake_();
+    }
+}
+
+void Events::defer(std::vector<std::string> events, std::function<void()> wake)
+{
+    deferred_ = std::move(events);
+    wake_ = std::move(wake);
 }
 
 void Events::flush()

@@ -2,8 +2,8 @@
 // Named events ("SelectionChanged", "SceneOpened") and the functions that wait for them.
 //
 // Delivered at once, inside the call that raised them, in the order of registration. A callback may
-// add and remove callbacks, itself too. Deferred delivery, which newer Maya releases may use, keeps
-// them until flush() and delivers repeats once.
+// add and remove callbacks, itself too. Events that are deferred, as newer Maya releases may do it
+// with "SelectionChanged", wait for flush() and come once however often they were raised.
 #pragma once
 
 #include <functional>
@@ -27,9 +27,10 @@ public:
     bool remove(Id id);
     void raise(std::string_view event);
 
-    void setDeferred(bool deferred) { isDeferred_ = deferred; }
-    void flush(); // delivers what was deferred
-    std::size_t callbackCount() const { return callbacks_.size(); }
+    // Defers these events from now on. `wake` is called when the first one waits: flush() is due
+    // as soon as the program is idle.
+    void defer(std::vector<std::string> events, std::function<void()> wake);
+    void flush(); // delivers what waits
 
 private:
     struct Callback {
@@ -41,7 +42,8 @@ private:
     std::vector<Callback> callbacks_;
     std::vector<std::string> pending_;
     Id nextId_ = 1;
-    bool isDeferred_ = false;
+    std::vector<std::string> deferred_;
+    std::function<void()> wake_;
 };
 
 } // namespace host

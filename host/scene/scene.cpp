@@ -118,7 +118,8 @@ bool endsWith(const DagPath &path, const std::vector<std::string_view> &parts, b
 Scene::Scene()
 {
     world_ = std::make_shared<Node>(*this, types_.findOrLearn("world", "dagNode"), "world");
-    addDefaultNodes();
+    addDefaultNodes(); // without UUIDs: every scene has them
+    givesUuids_ = true;
     isModified_ = false;
 }
 

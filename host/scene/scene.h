@@ -21,6 +21,7 @@
 #include "scene/error.h"
 #include "scene/node.h"
 #include "scene/nodeType.h"
+#include "scene/numberedNames.h"
 
 namespace host
 {
@@ -67,9 +68,10 @@ public:
 
     // --- Nodes --------------------------------------------------------------------------------
     enum class UnknownType { refuse, learn };
-    // `name` empty: the type's name with a number; a name that is taken gets the next free number;
-    // '#' at its end stands for a number. DAG nodes go below `parent`, or the world. A shape
-    // without a parent gets a transform, as Maya does it; the shape is what comes back.
+    // `name` empty: the type's name with a number; a name that is taken counts on to the next free
+    // number (numberedNames.h); '#' at its end stands for a number. DAG nodes go below `parent`, or
+    // the world. A shape without a parent gets a transform, as Maya does it; the shape is what
+    // comes back.
     NodePtr createNode(std::string_view type, std::string_view name, const NodePtr &parent = {},
                        UnknownType unknown = UnknownType::refuse);
     // createNode -s: the node of that name if there is one, else a new one.
@@ -81,6 +83,8 @@ public:
     // Returns the name given: a clash gets a number. Locked nodes are refused.
     std::string rename(const NodePtr &node, std::string_view name);
     void setUuid(const NodePtr &node, std::string_view uuid);
+    // Whether new nodes get a UUID, as they do unless said otherwise: a file brings its own.
+    void setGivesUuids(bool givesUuids) { givesUuids_ = givesUuids; }
     void setNodeLock(const NodePtr &node, bool locked, bool lockUnpublished);
     void keepStatement(const NodePtr &node, std::string statement);
 
@@ -144,6 +148,9 @@ public:
     void setModified(bool modified) { isModified_ = modified; }
     // Grows whenever a node comes, goes, moves or gets another name.
     unsigned long structureRevision() const { return structureRevision_; }
+    // How often a node got another name and a DAG node was made, by undo and redo too.
+    unsigned long renames() const { return renames_; }
+    unsigned long dagNodesCreated() const { return dagNodesCreated_; }
 
 private:
     friend struct SceneEdit;
@@ -160,11 +167,14 @@ private:
     NodePtr world_;
     std::map<unsigned long, NodePtr> nodes_; // by serial number
     std::unordered_map<std::string, std::vector<NodePtr>> byName_;
-    mutable std::unordered_map<std::string, unsigned> nextNumber_; // per name stem
+    mutable NumberedNames numberedNames_;
     unsigned long nextSerial_ = 0;
     ChangeRecorder *recorder_ = nullptr;
     bool isModified_ = false;
     unsigned long structureRevision_ = 0;
+    unsigned long renames_ = 0;
+    unsigned long dagNodesCreated_ = 0;
+    bool givesUuids_ = false;
 };
 
 // Switches recording off for a while.

@@ -5,20 +5,13 @@
 
 #include "scene/instancePaths.h"
 #include "scene/scene.h"
+#include "scene/uuid.h"
 
 namespace host
 {
 
 namespace
 {
-
-// "joint12" -> "joint" and 12; no digits -> 0.
-std::string_view stemOf(std::string_view name)
-{
-    while (!name.empty() && std::isdigit(static_cast<unsigned char>(name.back())))
-        name.remove_suffix(1);
-    return name;
-}
 
 bool isLegalName(std::string_view name)
 {
@@ -74,9 +67,9 @@ void Scene::enter(const NodePtr &node)
     node->scene_ = this;
     nodes_[node->serial_] = node;
     std::vector<NodePtr> &named = byName_[node->name_];
-    const auto place = std::find_if(named.begin(), named.end(), [&node](const NodePtr &other) {
-        return other->serial_ > node->serial_;
-    });
+    const auto place = std::upper_bound(
+        named.begin(), named.end(), node,
+        [](const NodePtr &one, const NodePtr &other) { return one->serial_ < other->serial_; });
     named.insert(place, node);
 }
 
@@ -89,7 +82,7 @@ void Scene::leave(const NodePtr &node)
     named.erase(std::find(named.begin(), named.end(), node));
     if (named.empty())
         byName_.erase(node->name_);
-    nextNumber_.clear(); // numbers below the remembered ones may be free again
+    numberedNames_.forget(node->name_);
 }
 
 std::string Scene::freeName(std::string_view wanted, bool isDag, const Node *parent) const
@@ -98,36 +91,39 @@ std::string Scene::freeName(std::string_view wanted, bool isDag, const Node *par
         const auto found = byName_.find(name);
         if (found == byName_.end())
             return false;
-        return std::any_of(found->second.begin(), found->second.end(), [&](const NodePtr &other) {
-            return !isDag || !other->isDag() ||
+        const std::vector<NodePtr> &named = found->second;
+        if (!isDag || !parent || !named.front()->isDag())
+            return true;
+        // Below other parents a name may stand many times.
+        const std::vector<NodePtr> &siblings = parent->children_;
+        const auto &fewer = siblings.size() < named.size() ? siblings : named;
+        return std::any_of(fewer.begin(), fewer.end(), [&](const NodePtr &other) {
+            return other->name_ == name &&
                    placeOf(other->parents_, parent) < other->parents_.size();
         });
     };
     const bool wantsNumber = !wanted.empty() && wanted.back() == '#';
-    if (wantsNumber)
-        wanted.remove_suffix(1);
-    const std::string name(wanted);
+    std::string name(wanted);
     if (!wantsNumber && !isTaken(name))
         return name;
-    const std::string stem(stemOf(wanted));
-    unsigned &number = nextNumber_[stem];
-    number = std::max(number, 1u);
-    // The remembered number skips names that are taken anywhere, so it serves every parent.
-    while (byName_.count(stem + std::to_string(number)) != 0)
-        ++number;
-    return stem + std::to_string(number);
+    // A number skips names that are taken anywhere, below other parents too.
+    return numberedNames_.next(name,
+                               [this](const std::string &one) { return byName_.count(one) != 0; });
 }
 
 NodePtr Scene::addNode(const NodeType &type, std::string name, const NodePtr &parent)
 {
     auto node = std::make_shared<Node>(*this, type, std::move(name));
     node->serial_ = nextSerial_++;
+    if (givesUuids_)
+        node->uuid_ = newUuid();
     const NodePtr above = node->isDag() ? (parent ? parent : world_) : nullptr;
     const auto redo = [this, node, above] {
         enter(node);
         if (above) {
             node->parents_.push_back(above.get());
             above->children_.push_back(node);
+            ++dagNodesCreated_;
         }
     };
     const auto undo = [this, node, above] {
@@ -255,6 +251,7 @@ std::string Scene::rename(const NodePtr &node, std::string_view name)
         leave(node);
         node->name_ = newName;
         enter(node);
+        ++renames_;
     };
     perform([change, after] { change(after); }, [change, before] { change(before); });
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "scene/session.h"
 
+#include <utility>
+
 #include "scene/adjacencyCache.h"
 #include "scene/toolState.h"
 
@@ -13,6 +15,7 @@ Session::Session(Mode mode)
       adjacencies_(std::make_unique<AdjacencyCache>())
 {
     scene_->setRecorder(&undo_);
+    announcedDagNodes_ = scene_->dagNodesCreated();
 }
 
 Session::~Session()
@@ -27,6 +30,7 @@ Session::~Session()
 void Session::replaceScene(std::unique_ptr<Scene> scene, std::string fileName, Replacement kind)
 {
     const bool hadSelection = !selection_.isEmpty();
+    const FileFacts before = scene_->facts;
     undo_.flush();
     selection_.clear();
     ordered_.clear();
@@ -34,17 +38,48 @@ void Session::replaceScene(std::unique_ptr<Scene> scene, std::string fileName, R
     scene_ = std::move(scene);
     scene_->setRecorder(&undo_);
     scene_->setModified(false);
+    announcedRenames_ = scene_->renames();
+    announcedDagNodes_ = scene_->dagNodesCreated();
     fileName_ = std::move(fileName);
     confirmFileName();
     if (hadSelection)
         events_.raise("SelectionChanged");
     events_.raise("deleteAll");
+    raiseUnitChanges(before);
     if (kind == Replacement::newScene) {
         events_.raise("NewSceneOpened");
     } else {
         events_.raise("PostSceneRead");
         events_.raise("SceneOpened");
     }
+}
+
+void Session::raiseUnitChanges(const FileFacts &before)
+{
+    const struct {
+        std::string FileFacts::*unit;
+        const char *event;
+    } units[] = {{&FileFacts::linearUnit, "linearUnitChanged"},
+                 {&FileFacts::angularUnit, "angularUnitChanged"},
+                 {&FileFacts::timeUnit, "timeUnitChanged"}};
+    for (const auto &[unit, event] : units) {
+        if (before.*unit != scene_->facts.*unit)
+            events_.raise(event);
+    }
+}
+
+void Session::announceChanges()
+{
+    if (isReadingFile)
+        return;
+    const bool wasRenamed =
+        std::exchange(announcedRenames_, scene_->renames()) != scene_->renames();
+    const bool wasCreated =
+        std::exchange(announcedDagNodes_, scene_->dagNodesCreated()) != scene_->dagNodesCreated();
+    if (wasRenamed)
+        events_.raise("NameChanged");
+    if (wasCreated)
+        events_.raise("DagObjectCreated");
 }
 
 const SelectionList &Session::orderedSelection() const
@@ -122,6 +157,8 @@ void Session::adjustSelection(const std::vector<SelectionItem> &items, Adjustmen
     const SelectionList orderedBefore = ordered_;
     adjust(selection_, items, adjustment);
     adjustOrdered(ordered_, items, adjustment);
+    // Which object Maya puts on the hilite list for picked components is a guess: their shape. The
+    // hilite command puts there what it is given.
     for (const SelectionItem &item : selection_.items()) {
         if (item.component) {
             SelectionItem object = item;

@@ -74,6 +74,13 @@ public:
     // After nodes were deleted: drops them from both lists, raises the event if that changed.
     void dropDeletedFromLists();
 
+    // --- Events -------------------------------------------------------------------------------
+    // Raises "NameChanged" and "DagObjectCreated" for what happened in the scene since the last
+    // call, each once; called at the end of each command. Not while a file is read.
+    void announceChanges();
+    // "linearUnitChanged" and its like, for units that are not as in `before`.
+    void raiseUnitChanges(const FileFacts &before);
+
     // --- Undo ---------------------------------------------------------------------------------
     // With the messages and events of Maya's undo and redo. False if the step failed.
     bool undoOnce();
@@ -100,6 +107,8 @@ private:
     SelectionList ordered_;
     SelectionList hilited_;
     bool tracksOrder_ = false;
+    unsigned long announcedRenames_ = 0;
+    unsigned long announcedDagNodes_ = 0;
 };
 
 } // namespace host

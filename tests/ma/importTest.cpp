@@ -37,6 +37,25 @@ TEST_F(Import, numbersNamesThatAreTaken)
     EXPECT_EQ(savedText(), after);
 }
 
+TEST_F(Import, keepsUuidsButThoseThatAreTaken)
+{
+    const std::string hip = melString("ls -uuid hip");
+    EXPECT_EQ(hip.size(), 36u);
+    EXPECT_NE(textOf(file_).find("rename -uid \"" + hip + "\";"), std::string::npos);
+    mel("file -import \"" + file_ + "\"");
+    const std::string twin = melString("ls -uuid hip1");
+    EXPECT_EQ(twin.size(), 36u);
+    EXPECT_NE(twin, hip);
+    EXPECT_EQ(savedText(), savedText());
+    mel("undo; redo");
+    EXPECT_EQ(melString("ls -uuid hip1"), twin);
+    mel("file -f -new; file -import \"" + file_ + "\"");
+    EXPECT_EQ(melString("ls -uuid hip"), hip);
+    ASSERT_TRUE(open(write("old.ma", "createNode joint -n \"toe\";\n")));
+    EXPECT_EQ(melString("ls -uuid toe"), "") << "what a file does not say stays so";
+    EXPECT_EQ(melString("createNode joint; ls -uuid joint1").size(), 36u);
+}
+
 TEST_F(Import, putsNamesIntoANamespace)
 {
     ASSERT_TRUE(MFileIO::importFile(file_.c_str(), nullptr, false, "left")) << takeErrors();

@@ -18,6 +18,12 @@ TEST(nodeNames, getTheNextFreeNumberWhereTheyClash)
         {"", "transform1"},     {"", "transform2"},
         {"rig:arm", "rig:arm"}, {"rig:arm", "rig:arm1"},
         {"knee1", "knee1"},     {"lambert1", "lambert2"}, // clashes with a node outside the DAG too
+        {"j9", "j9"},           {"j9", "j10"},
+        {"j9", "j11"},          {"arm09", "arm09"},
+        {"arm09", "arm10"},     {"arm099", "arm099"},
+        {"arm099", "arm100"},   {"x99999999999999999999", "x99999999999999999999"},
+        {"toe2", "toe2"},       {"toe#", "toe1"},
+        {"toe#", "toe3"},       {"x99999999999999999999", "x999999999999999999991"},
     };
     Scene scene;
     for (const auto &c : cases) {

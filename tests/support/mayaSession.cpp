@@ -52,6 +52,8 @@ MayaSession::~MayaSession()
 void MayaSession::mel(const std::string &script)
 {
     EXPECT_TRUE(MGlobal::executeCommand(script.c_str(), false, true)) << script;
+    if (qEnvironmentVariableIsSet("KORVEX_DEFERRED_EVENTS"))
+        QCoreApplication::processEvents(); // Maya is idle before a user goes on
 }
 
 std::string MayaSession::melString(const std::string &script)

@@ -112,6 +112,7 @@ MelValue import(Context &context, const Arguments &arguments)
     for (const NodePtr &node : context.session.scene().nodes())
         before.insert(node.get());
     ma::importFile(context.interpreter, path, arguments.string("namespace"));
+    context.session.events().raise("SceneImported");
     if (!arguments.has("returnNewNodes"))
         return path;
     std::vector<std::string> names;

@@ -81,6 +81,7 @@ MelValue currentUnit(Context &context, const Arguments &arguments)
     FileFacts &facts = context.scene().facts;
     if (arguments.isQuery())
         return queryUnit(facts, arguments);
+    const FileFacts before = facts;
     for (const UnitFlag &row : kUnitFlags) {
         if (!arguments.has(row.flag))
             continue;
@@ -90,6 +91,8 @@ MelValue currentUnit(Context &context, const Arguments &arguments)
                         " unit of a scene cannot be changed here.");
         facts.*row.member = name;
     }
+    if (!context.isReadingFile)
+        context.session.raiseUnitChanges(before);
     return MelValue();
 }
 
