@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Wireframe colours of DAG nodes, as Maya's default preferences have them.
+// Wireframe colours of DAG nodes. The numbers stand for Maya's default preferences, which are not
+// published: they are guesses.
 #pragma once
 
 #include <maya/MColor.h>

@@ -31,13 +31,15 @@ void connectInfluence(Scene &scene, const NodePtr &skinCluster, const DagPath &i
                       double dropoff);
 
 // Spreads the weights of an influence over the others, if the skin cluster normalises, and cuts its
-// connections. Its bindPreMatrix stays, as in Maya.
+// connections. Its bindPreMatrix stays, as in Maya. Who gets the weights is a guess: the others
+// that are not locked in proportion to what they have, as wherever weights are normalised.
 void removeInfluence(Scene &scene, const SkinCluster &cluster, std::size_t influence);
 
 // Removes the influences of which no vertex has a weight.
 void removeUnusedInfluences(Scene &scene, const SkinCluster &cluster);
 
-// Replaces the weights of the vertices with those of binding.
+// Replaces the weights of the vertices with those of binding. That locks do not hold here is a
+// guess.
 void resetToBindWeights(Scene &scene, const SkinCluster &cluster, const std::vector<int> &vertices);
 
 // Vertices that a skin cluster deforms: 0 to n - 1.

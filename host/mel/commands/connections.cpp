@@ -171,6 +171,31 @@ std::vector<Link> linksOf(const NodePtr &node, const Plug &top, bool sources, bo
     return links;
 }
 
+bool isConversion(const Node &node)
+{
+    const std::string &type = node.type().name;
+    return type == "unitConversion" || type == "timeToUnitConversion" ||
+           type == "unitToTimeConversion";
+}
+
+// The other end; with -skipConversionNodes what lies behind a node that only converts units.
+std::vector<Plug> endsOf(const Link &link, const Arguments &arguments)
+{
+    const Node &node = *link.other.node;
+    if (!arguments.boolean("skipConversionNodes", false) || !isConversion(node))
+        return {link.other};
+    std::vector<Plug> ends;
+    if (node.source(link.other)) {
+        for (const auto &[key, destinations] : node.allDestinations())
+            for (const Connection &destination : destinations)
+                ends.push_back(destination.plug());
+    } else {
+        for (const auto &[key, source] : node.sources())
+            ends.push_back(source.plug());
+    }
+    return ends;
+}
+
 bool hasWantedType(const Node &node, const Arguments &arguments)
 {
     if (!arguments.has("type"))
@@ -194,11 +219,13 @@ MelValue listConnections(Context &context, const Arguments &arguments)
     std::vector<std::string> names;
     const auto append = [&](const NodePtr &node, const Plug &top) {
         for (const Link &link : linksOf(node, top, sources, destinations)) {
-            if (!hasWantedType(*link.other.node, arguments))
-                continue;
-            if (arguments.boolean("connections", false))
-                names.push_back(link.own.name());
-            names.push_back(nameOfEnd(link.other, arguments));
+            for (const Plug &other : endsOf(link, arguments)) {
+                if (!hasWantedType(*other.node, arguments))
+                    continue;
+                if (arguments.boolean("connections", false))
+                    names.push_back(link.own.name());
+                names.push_back(nameOfEnd(other, arguments));
+            }
         }
     };
     if (arguments.objects.empty()) {
@@ -234,7 +261,8 @@ void addConnectionCommands(CommandTable &table)
                 {"c", "connections", "b"},
                 {"t", "type", "s"},
                 {"et", "exactType", "b"},
-                {"sh", "shapes", "b"}},
+                {"sh", "shapes", "b"},
+                {"scn", "skipConversionNodes", "b"}},
                listConnections});
 }
 

@@ -174,6 +174,8 @@ const InfoFlag kInfoFlags[] = {
      [](Context &, const PluginInfo &info) { return MelValue(info.apiVersion); }},
     {{"c", "command"}, [](Context &, const PluginInfo &info) { return MelValue(info.commands); }},
     {{"uo", "unloadOk"}, unloadOk},
+    // Nothing is loaded by itself.
+    {{"a", "autoload", "b"}, [](Context &, const PluginInfo &) { return MelValue(0LL); }},
 };
 
 MelValue pluginInfo(Context &context, const Arguments &arguments)

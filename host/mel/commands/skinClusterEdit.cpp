@@ -70,6 +70,7 @@ int nextLogicalIndex(const SkinCluster &cluster)
 }
 
 // What each vertex gets of a new influence: the weight that is given, else its share at binding.
+// The latter is a guess; Maya's documentation names no value for a call without -weight.
 std::vector<double> newWeights(const Arguments &arguments, const SkinCluster &cluster,
                                std::size_t influence, const std::vector<int> &vertices)
 {
@@ -184,6 +185,8 @@ struct Step {
     void (*run)(const Edit &edit);
 };
 
+// Settings come first, then these in the order of the table. A call with several of them is rare,
+// and Maya's order is not published: the order is a guess.
 const Step kSteps[] = {{"influence", editInfluence},
                        {"smoothWeights", smooth},
                        {"selectInfluenceVerts", selectVertices},

@@ -84,11 +84,10 @@ double weightOf(const Call &call, int vertex, int influence)
     return call.cluster.node()->weights()->weight(std::size_t(vertex), logical);
 }
 
-// --- Writing
-// --------------------------------------------------------------------------------------
+// --- Writing -------------------------------------------------------------------------------------
 
 // What -transformValue gives, one value per influence; with -zeroRemainingInfluences the others
-// that are not locked get 0.
+// that are not locked get 0. That locked ones are spared is a guess.
 struct Assigned {
     std::vector<int> indices;
     std::vector<double> values;
@@ -175,10 +174,10 @@ MelValue write(const Call &call)
     return {};
 }
 
-// --- Queries
-// --------------------------------------------------------------------------------------
+// --- Queries -------------------------------------------------------------------------------------
 
-// Several components answer with the mean of their weights.
+// Several components answer with the mean of their weights. Maya documents that for the weight of
+// one influence (-query -transform NAME); that -query -value does the same is a guess.
 double meanWeight(const Call &call, int influence)
 {
     double sum = 0;
