@@ -33,16 +33,22 @@ class FreeNames
 {
 public:
     FreeNames(const Scene &imported, const Scene &target) : imported_(imported), target_(target) {}
-    std::string of(const std::string &wanted)
+    std::string of(const std::string &wanted, const std::string &prefix)
     {
         if (target_.nodesNamed(wanted).empty())
             return wanted;
-        return numbers_.next(wanted, [this](const std::string &name) {
-            return !target_.nodesNamed(name).empty() || !imported_.nodesNamed(name).empty();
-        });
+        const std::string prefixed = prefix.empty() ? wanted : prefix + '_' + wanted;
+        if (!prefix.empty() && !isTaken(prefixed))
+            return prefixed;
+        return numbers_.next(prefixed, [this](const std::string &name) { return isTaken(name); });
     }
 
 private:
+    bool isTaken(const std::string &name) const
+    {
+        return !target_.nodesNamed(name).empty() || !imported_.nodesNamed(name).empty();
+    }
+
     const Scene &imported_;
     const Scene &target_;
     NumberedNames numbers_;
@@ -59,7 +65,8 @@ std::vector<NodePtr> presentNodes(const Scene &imported, const Scene &target)
     return present;
 }
 
-void giveFreeNames(Scene &imported, const Scene &target, const std::string &nameSpace)
+void giveFreeNames(Scene &imported, const Scene &target, const std::string &nameSpace,
+                   const std::string &prefix)
 {
     std::set<std::string> uuids;
     for (const NodePtr &node : target.nodes())
@@ -73,7 +80,7 @@ void giveFreeNames(Scene &imported, const Scene &target, const std::string &name
     }
     FreeNames names(imported, target);
     for (const auto &[node, name] : wanted)
-        forceName(imported, node, names.of(name));
+        forceName(imported, node, names.of(name, prefix));
 }
 
 // Plug-ins' default nodes may be missing in the target; then their connections are.
@@ -110,11 +117,11 @@ void runText(mel::Interpreter &interpreter, std::string_view text, Scene &target
 } // namespace
 
 void importFile(mel::Interpreter &interpreter, const std::string &path,
-                const std::string &nameSpace)
+                const std::string &nameSpace, const std::string &prefix)
 {
     const std::unique_ptr<Scene> imported = readFile(interpreter, path);
     Scene &target = interpreter.session().scene();
-    giveFreeNames(*imported, target, nameSpace);
+    giveFreeNames(*imported, target, nameSpace, prefix);
 
     std::string text;
     StatementWriter out([&text](std::string_view piece) { text += piece; });

@@ -26,9 +26,10 @@ std::unique_ptr<Scene> readFile(mel::Interpreter &interpreter, const std::string
 void openFile(mel::Interpreter &interpreter, const std::string &path);
 
 // Reads the file's statements into the session's scene (file -import), recorded for undo if the
-// session records; names that clash get numbers, or go into `nameSpace` if it is not empty.
+// session records. Names go into `nameSpace` if it is not empty; of those that clash each gets
+// `prefix` and an underscore if that is not empty, and a number where it is taken all the same.
 void importFile(mel::Interpreter &interpreter, const std::string &path,
-                const std::string &nameSpace);
+                const std::string &nameSpace, const std::string &prefix);
 
 // Writes the scene. The file is replaced only when all of it could be written. Throws Error.
 void writeFile(Session &session, const std::string &path);

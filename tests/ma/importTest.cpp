@@ -64,6 +64,12 @@ TEST_F(Import, putsNamesIntoANamespace)
     EXPECT_EQ(melStrings("listConnections -s true -d false \"left:skin.ma\""), "left:knee");
     EXPECT_EQ(melStrings("file -import -ns \"right\" -rnn \"" + file_ + "\""),
               "right:rig right:hip right:knee right:skin");
+    EXPECT_EQ(melStrings("rename knee j9; file -import -rpr \"b\" -rnn \"" + file_ + "\""),
+              "b_rig b_hip knee b_skin");
+    EXPECT_EQ(melStrings("file -import -rpr \"b\" -rnn \"" + file_ + "\""),
+              "b_rig1 b_hip1 b_knee b_skin1");
+    EXPECT_EQ(melError("file -dr 1 -import \"" + file_ + "\""),
+              "file: References are not loaded; only a file may say -deferReference.");
 }
 
 TEST_F(Import, ofABrokenFileChangesNothing)

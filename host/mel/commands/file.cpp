@@ -41,12 +41,24 @@ const std::vector<Flag> kFlags = {
     {"shn", "shortName"},
     {"ex", "exists"},
     {"loc", "location"},
+    {"rpr", "renamingPrefix", "s"},
     // Only in files.
     {"rdi", "referenceDepthInfo", "i"},
     {"rfn", "referenceNode", "s"},
     {"dr", "deferReference", "b"},
-    {"rpr", "renamingPrefix", "s"},
 };
+
+// Flags that would be without effect.
+void refuseStrayFlags(const Arguments &arguments)
+{
+    for (const char *flag : {"referenceDepthInfo", "referenceNode", "deferReference"}) {
+        if (arguments.has(flag))
+            throw Error(std::string("file: References are not loaded; only a file may say -") +
+                        flag + ".");
+    }
+    if (arguments.has("renamingPrefix") && !arguments.has("import"))
+        throw Error("file: -renamingPrefix belongs to -import.");
+}
 
 std::string pathOperand(const Arguments &arguments)
 {
@@ -111,7 +123,8 @@ MelValue import(Context &context, const Arguments &arguments)
     std::unordered_set<const Node *> before;
     for (const NodePtr &node : context.session.scene().nodes())
         before.insert(node.get());
-    ma::importFile(context.interpreter, path, arguments.string("namespace"));
+    ma::importFile(context.interpreter, path, arguments.string("namespace"),
+                   arguments.string("renamingPrefix"));
     context.session.events().raise("SceneImported");
     if (!arguments.has("returnNewNodes"))
         return path;
@@ -214,10 +227,11 @@ MelValue file(Context &context, const Arguments &arguments)
         context.scene().facts.references.push_back(statementText("file", kFlags, arguments));
         return MelValue();
     }
+    refuseStrayFlags(arguments);
     if (arguments.isQuery()) {
         const Action *question = findAction(kQuestions, arguments);
         if (!question)
-            throw Error("file: There is nothing to query.");
+            throwNoQuestion();
         return question->run(context, arguments);
     }
     if (const Action *action = findAction(kActions, arguments))
