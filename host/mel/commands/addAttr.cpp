@@ -189,7 +189,7 @@ MelValue query(Context &context, const Arguments &arguments)
         if (arguments.has(flag))
             return askAttribute(plug, flag);
     }
-    throw Error("addAttr: There is nothing to query.");
+    throwNoQuestion();
 }
 
 MelValue addAttr(Context &context, const Arguments &arguments, PendingAttributes &pending)

@@ -210,7 +210,7 @@ MelValue attributeQuery(Context &context, const Arguments &arguments)
         if (arguments.has(question.flag.longName))
             return question.answer(plug);
     }
-    throw Error("attributeQuery: There is nothing to query.");
+    throwNoQuestion();
 }
 
 } // namespace

@@ -211,6 +211,11 @@ Command fileStatement(Command command)
     return command;
 }
 
+void throwNoQuestion()
+{
+    throw Error("No flag to query was given.");
+}
+
 double requireNumber(std::string_view text)
 {
     double number = 0.0;

@@ -61,6 +61,9 @@ std::vector<DagPath> pathsOrSelection(Context &context, const Arguments &argumen
 // The row with the mark that scene files may contain the command.
 Command fileStatement(Command command);
 
+// "No flag to query was given.": a query says what it wants to know.
+[[noreturn]] void throwNoQuestion();
+
 // --- Values and results --------------------------------------------------------------------------
 
 // A number that stands in `text` as MEL and Maya ASCII write it, words such as yes and off too.

@@ -73,7 +73,7 @@ MelValue queryUnit(const FileFacts &facts, const Arguments &arguments)
             return name;
         return std::string(arguments.has("fullName") ? unit->longName : unit->shortName);
     }
-    throw Error("currentUnit: There is nothing to query.");
+    throwNoQuestion();
 }
 
 MelValue currentUnit(Context &context, const Arguments &arguments)

@@ -129,7 +129,7 @@ MelValue query(const Arguments &arguments, const DagPath &joint)
     if (arguments.has("name"))
         return node.uniqueName();
     if (!arguments.has("position"))
-        throw Error("No flag to query was given.");
+        throwNoQuestion();
     if (arguments.has("relative"))
         return triple(node.plug("translate"));
     const skin::Vec3 position = translationOf(worldMatrix(joint));

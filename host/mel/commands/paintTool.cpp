@@ -200,7 +200,7 @@ MelValue query(const SkinPaintTool &tool, const Arguments &arguments)
         if (arguments.has(flag.longName))
             return displayValue(tool, flag);
     }
-    throw Error("No flag to query was given.");
+    throwNoQuestion();
 }
 
 // All flags are read before the first one counts.

@@ -196,7 +196,7 @@ MelValue pluginInfo(Context &context, const Arguments &arguments)
         if (arguments.has(row.flag.longName))
             return row.value(context, requireLoaded(context, name));
     }
-    throw Error("No flag to query was given.");
+    throwNoQuestion();
 }
 
 } // namespace

@@ -160,7 +160,7 @@ MelValue query(Context &context, const Arguments &arguments, const PrimitiveComm
         return row.flag.arguments[0] == 'i' ? MelValue(static_cast<long long>(value))
                                             : MelValue(value);
     }
-    throw Error("No flag to query was given.");
+    throwNoQuestion();
 }
 
 MelValue run(Context &context, const Arguments &arguments, const PrimitiveCommand &command)

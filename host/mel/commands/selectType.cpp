@@ -5,6 +5,8 @@
 #include <set>
 #include <string>
 
+#include "mel/commands/commandSupport.h"
+
 namespace host::mel
 {
 
@@ -78,7 +80,7 @@ MelValue query(Pickable pickable, const Arguments &arguments)
         if (isKnown)
             return static_cast<long long>(isOn);
     }
-    throw Error("No flag to query was given.");
+    throwNoQuestion();
 }
 
 // In the order of the call: "-allComponents false -vertex true" leaves vertices.

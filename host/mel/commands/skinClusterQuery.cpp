@@ -105,7 +105,7 @@ MelValue querySkinCluster(Context &context, const Arguments &arguments)
         if (arguments.has(answer.flag))
             return answer.give({context, arguments, cluster});
     }
-    throw Error("No flag to query was given.");
+    throwNoQuestion();
 }
 
 } // namespace host::mel

@@ -194,7 +194,7 @@ MelValue query(const Call &call)
         return meanWeight(call, int(requireInfluence(call.context, call.cluster, name)));
     }
     if (!asksTransform && !call.arguments.has("value"))
-        throw Error("No flag to query was given.");
+        throwNoQuestion();
     std::vector<std::string> names;
     std::vector<double> weights;
     const bool isLimited = call.arguments.has("ignoreBelow");

@@ -53,7 +53,7 @@ MelValue about(Context &context, const Arguments &arguments)
         return static_cast<long long>(kApiVersion);
     if (arguments.has("version"))
         return std::to_string(kApiVersion / 100);
-    throw Error("about: There is nothing to query.");
+    throwNoQuestion();
 }
 
 // There is no picture that could be out of date: views draw themselves after every event.

@@ -29,7 +29,7 @@ MelValue setTool(Context &context, const Arguments &arguments)
 MelValue contextInfo(Context &context, const Arguments &arguments)
 {
     if (!arguments.has("exists"))
-        throw Error("No flag to query was given.");
+        throwNoQuestion();
     const std::string known = context.session.tools().contextNamed(arguments.objects[0].text);
     return static_cast<long long>(!known.empty());
 }

@@ -194,7 +194,7 @@ MelValue query(Context &context, const Arguments &arguments, bool isWorld)
         }
     }
     if (numbers.empty())
-        throw Error("xform: There is nothing to query.");
+        throwNoQuestion();
     return numbers;
 }
 
