@@ -86,7 +86,7 @@ std::string DagPath::partialName() const
     std::string name = node()->name();
     if (!scene)
         return name;
-    for (std::size_t i = nodes_.size() - 1; scene->pathsMatching(name).size() > 1; --i) {
+    for (std::size_t i = nodes_.size() - 1; scene->isAmbiguous(name); --i) {
         if (i == 0)
             return '|' + name;
         name = nodes_[i - 1]->name() + '|' + name;

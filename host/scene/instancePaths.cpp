@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "scene/instancePaths.h"
 
+#include <algorithm>
 #include <unordered_map>
 #include <unordered_set>
 #include <vector>
@@ -31,7 +32,51 @@ std::size_t pathCount(const Node &node, PathCounts &known)
     return known[&node] = count;
 }
 
+using Names = std::vector<std::string_view>;
+
+// Paths from the top to a node that has the name names[place]: those of its parents that have the
+// names before it, all where there are none.
+std::size_t countUp(const Node &node, const Names &names, std::size_t place, std::size_t most)
+{
+    std::size_t count = 0;
+    for (const Node *parent : node.parents()) {
+        const bool isWorld = parent->parents().empty();
+        if (place == 0)
+            count += isWorld ? 1 : countUp(*parent, names, 0, most - count);
+        else if (!isWorld && parent->name() == names[place - 1])
+            count += countUp(*parent, names, place - 1, most - count);
+        if (count >= most)
+            break;
+    }
+    return count;
+}
+
+// Ways down from a node that has the name names[place] to the last name.
+std::size_t countDown(const Node &node, const Names &names, std::size_t place, std::size_t most)
+{
+    if (place + 1 == names.size())
+        return 1;
+    std::size_t count = 0;
+    for (const NodePtr &child : node.children()) {
+        if (child->name() == names[place + 1])
+            count += countDown(*child, names, place + 1, most - count);
+        if (count >= most)
+            break;
+    }
+    return count;
+}
+
 } // namespace
+
+std::size_t pathsEndingAt(const Node &last, const Names &parts, std::size_t most)
+{
+    return std::min(most, countUp(last, parts, parts.size() - 1, most));
+}
+
+std::size_t pathsThrough(const Node &first, const Names &parts, std::size_t most)
+{
+    return std::min(most, countUp(first, parts, 0, most) * countDown(first, parts, 0, most));
+}
 
 bool isAtOrAbove(const Node &node, const Node &other)
 {

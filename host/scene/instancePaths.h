@@ -3,6 +3,8 @@
 #pragma once
 
 #include <cstddef>
+#include <string_view>
+#include <vector>
 
 namespace host
 {
@@ -18,5 +20,13 @@ bool isAtOrAbove(const Node &node, const Node &other);
 
 // Whether `node`, or one below it, would have too many paths with `parent` as a further parent.
 bool wouldHaveTooManyPaths(const Node &node, const Node &parent);
+
+// How many paths end with the names of `parts`, no more than `most`: up from a node that has the
+// last name, or down from one that has the first. Both give the same sum over all nodes of that
+// name.
+std::size_t pathsEndingAt(const Node &last, const std::vector<std::string_view> &parts,
+                          std::size_t most);
+std::size_t pathsThrough(const Node &first, const std::vector<std::string_view> &parts,
+                         std::size_t most);
 
 } // namespace host

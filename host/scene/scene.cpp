@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <set>
 
+#include "scene/instancePaths.h"
+
 namespace host
 {
 
@@ -175,6 +177,25 @@ std::vector<DagPath> Scene::pathsMatching(std::string_view name) const
         }
     }
     return paths;
+}
+
+bool Scene::isAmbiguous(std::string_view name) const
+{
+    const std::vector<std::string_view> parts = splitPath(name);
+    const auto first = byName_.find(std::string(parts.front()));
+    const auto last = byName_.find(std::string(parts.back()));
+    if (first == byName_.end() || last == byName_.end())
+        return false;
+    // From the end of the path of which there are fewer: one of many "hip" is found by its parent.
+    const bool isFromTop = first->second.size() < last->second.size();
+    std::size_t count = 0;
+    for (const NodePtr &node : (isFromTop ? first : last)->second) {
+        if (node->isDag())
+            count += isFromTop ? pathsThrough(*node, parts, 2) : pathsEndingAt(*node, parts, 2);
+        if (count > 1)
+            return true;
+    }
+    return false;
 }
 
 NodePtr Scene::node(std::string_view name) const

@@ -60,6 +60,8 @@ public:
     std::vector<NodePtr> nodesNamed(std::string_view name) const;
     // Paths that a name or partial path ("left|hip", "|root|hip", "hip") can mean. DAG nodes only.
     std::vector<DagPath> pathsMatching(std::string_view name) const;
+    // Whether there are several, without a list of them. `name` starts with no '|'.
+    bool isAmbiguous(std::string_view name) const;
     // The one node that a name or path means; throws no such object / ambiguous name.
     NodePtr node(std::string_view name) const;
     // The same, null instead of an error when there is none (an ambiguous name still throws).
