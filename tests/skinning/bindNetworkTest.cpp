@@ -149,6 +149,22 @@ TEST_F(bindNetwork, sharesTheBindPoseOfASkeleton)
     EXPECT_EQ(melStrings("ls -type dagPose"), "");
 }
 
+// Joints that have left their pose keep it for the first mesh; the second one gets its own.
+TEST_F(bindNetwork, keepsAnotherBindPoseOnRequest)
+{
+    makeBodyAndJoints("");
+    mel("polyCube -n coat; polyCube -n hat; select -cl; skinCluster hip body;"
+        "skinCluster -ibp hip coat");
+    EXPECT_EQ(melStrings("ls -type dagPose"), "bindPose1");
+    mel("setAttr knee.tx 5; skinCluster -ibp hip hat");
+    EXPECT_EQ(inputs("skinCluster3").find("bindPose2.message -> skinCluster3.bindPose") !=
+                  std::string::npos,
+              true);
+    EXPECT_EQ(melNumbers("getAttr bindPose1.worldMatrix[2]")[12], 0.0);
+    EXPECT_EQ(melNumbers("getAttr bindPose2.worldMatrix[2]")[12], 5.0);
+    EXPECT_EQ(melNumbers("getAttr skinCluster3.bindPreMatrix[1]")[12], -5.0);
+}
+
 // A deformer that is there already stays in front; no second intermediate shape is made.
 TEST_F(bindNetwork, continuesAChainOfDeformers)
 {

@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <unordered_set>
 
 #include "scene/transform.h"
 
@@ -94,26 +95,57 @@ int memberIndex(const Node &pose, const Node &node)
     return -1;
 }
 
-NodePtr poseOf(const Node &influence)
+// Whether a member of the pose stands where it stood when the pose was kept. What is no member
+// does.
+bool standsAt(const Node &pose, const DagPath &path)
 {
-    for (const Connection &user : influence.destinations(influence.plug("message"))) {
-        if (user.node->isA("dagPose") && user.attribute->longName == "members" &&
-            evaluateNumber(user.node->plug("bindPose")) != 0)
-            return user.node->shared_from_this();
+    const int index = memberIndex(pose, *path.node());
+    if (index < 0)
+        return true;
+    const Value kept = evaluate(pose.plug("worldMatrix").element(index));
+    const Matrix *then = std::get_if<Matrix>(&kept);
+    const Matrix now = worldMatrix(path);
+    constexpr double kTolerance = 1e-6; // of file text and of chains of matrices
+    return !then || std::equal(now.begin(), now.end(), then->begin(), [](double a, double b) {
+        return std::abs(a - b) <= kTolerance * std::max(1.0, std::abs(b));
+    });
+}
+
+// A bind pose that one of the influences belongs to; null if none will do.
+NodePtr knownPose(const std::vector<DagPath> &influences, PoseChoice choice)
+{
+    const auto willDo = [&](const Node &pose) {
+        return choice == PoseChoice::any ||
+               std::all_of(influences.begin(), influences.end(),
+                           [&pose](const DagPath &path) { return standsAt(pose, path); });
+    };
+    std::unordered_set<const Node *> refused;
+    for (const DagPath &influence : influences) {
+        const Node &node = *influence.node();
+        for (const Connection &user : node.destinations(node.plug("message"))) {
+            if (!user.node->isA("dagPose") || user.attribute->longName != "members" ||
+                evaluateNumber(user.node->plug("bindPose")) == 0 || refused.count(user.node) > 0)
+                continue;
+            if (willDo(*user.node))
+                return user.node->shared_from_this();
+            refused.insert(user.node);
+        }
     }
     return {};
 }
 
+// A joint's own bindPose holds for the first pose that it belongs to, further poses keep theirs.
 void storeWorldMatrix(Scene &scene, const NodePtr &pose, const DagPath &path, int index)
 {
     const Plug matrix = pose->plug("worldMatrix").element(index);
     const Matrix value = worldMatrix(path);
-    if (!path.node()->isA("joint")) {
+    const NodePtr &node = path.node();
+    if (!node->isA("joint") || !node->destinations(node->plug("bindPose")).empty()) {
         scene.setValue(matrix, value);
         return;
     }
-    scene.setValue(path.node()->plug("bindPose"), value);
-    scene.connect(path.node()->plug("bindPose"), matrix);
+    scene.setValue(node->plug("bindPose"), value);
+    scene.connect(node->plug("bindPose"), matrix);
 }
 
 // Takes a transform into the pose, after those above it; returns its index. Transforms that are no
@@ -139,15 +171,11 @@ int addMember(Scene &scene, const NodePtr &pose, const DagPath &path, bool isInf
 
 } // namespace
 
-NodePtr provideBindPose(Scene &scene, const std::vector<DagPath> &influences)
+NodePtr provideBindPose(Scene &scene, const std::vector<DagPath> &influences, PoseChoice choice)
 {
     if (influences.empty())
         return {};
-    NodePtr pose;
-    for (const DagPath &influence : influences) {
-        if (!pose)
-            pose = poseOf(*influence.node());
-    }
+    NodePtr pose = knownPose(influences, choice);
     if (!pose) {
         pose = scene.createNode("dagPose", "bindPose#");
         scene.setValue(pose->plug("bindPose"), 1.0);

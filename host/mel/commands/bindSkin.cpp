@@ -3,7 +3,6 @@
 
 #include <numeric>
 
-#include "mel/commands/bindPose.h"
 #include "mel/commands/deformerNetwork.h"
 #include "scene/transform.h"
 
@@ -76,7 +75,7 @@ NodePtr bindSkin(Scene &scene, const BindOptions &options)
         connectInfluence(scene, node, options.influences[i], int(i), options.dropoff);
     scene.setValue(node->plug("geomMatrix"), worldMatrix(options.shape));
     attachDeformer(scene, node, options.shape);
-    const NodePtr pose = provideBindPose(scene, options.influences);
+    const NodePtr pose = provideBindPose(scene, options.influences, options.pose);
     scene.connect(pose->plug("message"), node->plug("bindPose"));
     const SkinCluster cluster(node);
     resetToBindWeights(scene, cluster, allVertices(cluster));

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "mel/commands/bindPose.h"
 #include "scene/dagPath.h"
 #include "scene/scene.h"
 #include "scene/skinCluster.h"
@@ -18,6 +19,7 @@ struct BindOptions {
     std::vector<DagPath> influences;
     DagPath shape;
     double dropoff = 4;
+    PoseChoice pose = PoseChoice::any;
     std::vector<std::pair<std::string, double>> settings; // attributes of the skin cluster
 };
 

@@ -19,6 +19,7 @@ namespace
 const std::vector<Flag> kFlags = {{"n", "name", "s"},
                                   {"tsb", "toSelectedBones"},
                                   {"ih", "ignoreHierarchy"},
+                                  {"ibp", "ignoreBindPose"},
                                   {"dr", "dropoffRate", "d"},
                                   {"inf", "influence", "s"},
                                   {"wi", "weightedInfluence"},
@@ -144,6 +145,11 @@ double dropoffOf(const Arguments &arguments)
     return dropoff;
 }
 
+PoseChoice poseChoiceOf(const Arguments &arguments)
+{
+    return arguments.has("ignoreBindPose") ? PoseChoice::asTheyStand : PoseChoice::any;
+}
+
 DagPath visibleShape(const SelectionItem &item)
 {
     if (item.path.isNull() || item.isPlug() || item.node->isA("joint"))
@@ -187,6 +193,7 @@ MelValue createSkinCluster(Context &context, const Arguments &arguments)
     BindOptions options;
     options.name = arguments.string("name");
     options.dropoff = dropoffOf(arguments);
+    options.pose = poseChoiceOf(arguments);
     for (const SkinSetting &setting : skinSettings()) {
         if (arguments.has(setting.flag.longName))
             options.settings.emplace_back(setting.attribute, settingValue(arguments, setting));

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "mel/command.h"
+#include "mel/commands/bindPose.h"
 #include "scene/skinCluster.h"
 
 namespace host::mel
@@ -25,6 +26,9 @@ double settingValue(const Arguments &arguments, const SkinSetting &setting);
 
 // -dropoffRate: refused outside 0.1 to 10, the range of Maya's command.
 double dropoffOf(const Arguments &arguments);
+
+// -ignoreBindPose: which bind pose new influences join.
+PoseChoice poseChoiceOf(const Arguments &arguments);
 
 // The visible mesh, curve or surface that an item means: the shape itself, or the one below a
 // transform. Null for joints and for transforms without any.

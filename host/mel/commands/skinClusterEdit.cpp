@@ -2,7 +2,6 @@
 // skinCluster -edit: settings, influences, normalising and unbinding.
 #include <algorithm>
 
-#include "mel/commands/bindPose.h"
 #include "mel/commands/bindSkin.h"
 #include "mel/commands/commandSupport.h"
 #include "mel/commands/deformerNetwork.h"
@@ -90,7 +89,7 @@ void addOneInfluence(const Edit &edit, const DagPath &path)
         throw Error("'" + path.partialName() + "' is an influence already.");
     const int index = nextLogicalIndex(SkinCluster(edit.node));
     connectInfluence(scene, edit.node, path, index, dropoffOf(edit.arguments));
-    provideBindPose(scene, {path});
+    provideBindPose(scene, {path}, poseChoiceOf(edit.arguments));
     const SkinCluster cluster(edit.node);
     const auto influence = std::size_t(cluster.indexOf(*path.node()));
     // Nothing is written for a weight of 0: that would normalise the others.
