@@ -119,6 +119,12 @@ public:
     // Moves everything that is stored below a top-level attribute to another node that declares the
     // same attribute, in place of what it has there. Connections stay where they are.
     void moveData(const NodePtr &from, const NodePtr &to, std::string_view attribute);
+    // Gives a node that was just made what another one of its type holds: dynamic attributes,
+    // values and states, but no connections and nothing of its instances; or all below one
+    // attribute, in place of what it has there. Not recorded: the new node comes and goes with what
+    // it holds.
+    void copyData(const NodePtr &from, const NodePtr &to);
+    void copyData(const NodePtr &from, const NodePtr &to, std::string_view attribute);
     // Makes sure that the element exists, with its default value.
     void addElement(const Plug &element);
     void removeElement(const Plug &element);

@@ -37,24 +37,27 @@ bool readComponents(const std::vector<std::string> &texts, const Node &mesh, Com
     return !component.elements.empty();
 }
 
-// The component list of one object group: the shape's own, or that of the groupParts node which
-// works on the same group.
-std::vector<std::string> componentTexts(const Plug &objectGroup)
+std::vector<std::string> textsAt(const Plug &componentList)
 {
-    const auto list = [](const Value &value) {
-        const auto *texts = std::get_if<std::vector<std::string>>(&value);
-        return texts ? *texts : std::vector<std::string>();
-    };
+    const Value value = evaluate(componentList);
+    const auto *texts = std::get_if<std::vector<std::string>>(&value);
+    return texts ? *texts : std::vector<std::string>();
+}
+
+} // namespace
+
+Plug componentListOf(const Plug &objectGroup)
+{
     const std::vector<AttributePtr> &children = objectGroup.attribute->children;
-    std::vector<std::string> own = list(evaluate(objectGroup.child(children[0])));
+    const Plug own = objectGroup.child(children[0]);
     const Connection *id = objectGroup.node->source(objectGroup.child(children[1]));
-    if (!own.empty() || !id)
+    if (!id || !textsAt(own).empty())
         return own;
     for (const Connection &user : id->node->destinations(id->plug())) {
         if (user.node->isA("groupParts"))
-            return list(evaluate(user.node->plug("inputComponents")));
+            return user.node->plug("inputComponents");
     }
-    return {};
+    return own;
 }
 
 bool memberAt(const Plug &source, SelectionItem &item)
@@ -65,7 +68,7 @@ bool memberAt(const Plug &source, SelectionItem &item)
     if (source.attribute->longName == "objectGroups") {
         item.component.emplace();
         return source.node->isA("mesh") &&
-               readComponents(componentTexts(source), *source.node, *item.component);
+               readComponents(textsAt(componentListOf(source)), *source.node, *item.component);
     }
     if (source.node->isA("shape") && !item.path.parent().isNull()) {
         item.path = item.path.parent();
@@ -73,8 +76,6 @@ bool memberAt(const Plug &source, SelectionItem &item)
     }
     return true;
 }
-
-} // namespace
 
 std::vector<SelectionItem> setMembers(const Node &set)
 {

@@ -14,4 +14,12 @@ namespace host
 // groupParts node of the same group, any other in the shape. REQUIRES: set.isA("objectSet").
 std::vector<SelectionItem> setMembers(const Node &set);
 
+// The member that is connected from this plug: an object group of a shape, a DAG node's
+// instObjGroups element, or a message. False for a group without components.
+bool memberAt(const Plug &source, SelectionItem &member);
+
+// Where the components of an object group are written: the componentList of the shape's own group
+// or that of the groupParts node which works on the same group.
+Plug componentListOf(const Plug &objectGroup);
+
 } // namespace host

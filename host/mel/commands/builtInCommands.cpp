@@ -12,12 +12,18 @@ void addBuiltInCommands(CommandTable &table)
     addGetAttrCommand(table);
     addAttributeCommands(table);
     addConnectionCommands(table);
+    addConnectionInfoCommand(table);
+    addListHistoryCommand(table);
     addNodeCommands(table);
+    addDuplicateCommand(table);
     addListCommand(table);
     addDagCommands(table);
     addTransformCommands(table);
     addSelectionCommands(table);
+    addFilterExpandCommand(table);
+    addSetCommand(table);
     addPrimitiveCommands(table);
+    addPolyEvaluateCommand(table);
     addJointCommands(table);
     addSkinClusterCommands(table);
     addSkinPercentCommands(table);

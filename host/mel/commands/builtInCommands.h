@@ -18,14 +18,20 @@ void addAttributeCommands(
 
 // The graph.
 void addConnectionCommands(CommandTable &table);
-void addNodeCommands(CommandTable &table);      // createNode, delete, rename, lockNode, ...
+void addConnectionInfoCommand(CommandTable &table);
+void addListHistoryCommand(CommandTable &table);
+void addNodeCommands(CommandTable &table); // createNode, delete, rename, lockNode, ...
+void addDuplicateCommand(CommandTable &table);
 void addListCommand(CommandTable &table);       // ls
 void addDagCommands(CommandTable &table);       // parent, group, listRelatives, instanceable
 void addTransformCommands(CommandTable &table); // move, rotate, scale, xform
 
 // Selection and skinning.
 void addSelectionCommands(CommandTable &table);
+void addFilterExpandCommand(CommandTable &table);
+void addSetCommand(CommandTable &table);
 void addPrimitiveCommands(CommandTable &table);
+void addPolyEvaluateCommand(CommandTable &table);
 void addJointCommands(CommandTable &table);
 void addSkinClusterCommands(CommandTable &table);
 void addSkinPercentCommands(CommandTable &table);

@@ -2,6 +2,7 @@
 #include "mel/commands/commandSupport.h"
 
 #include <algorithm>
+#include <cctype>
 #include <set>
 #include <unordered_set>
 
@@ -280,6 +281,14 @@ NodePtr objectOf(const NodePtr &node)
     if (!isShape(*node) || node->parents().empty())
         return node;
     return node->parents().front()->shared_from_this();
+}
+
+std::string shapeNameFor(const std::string &transform)
+{
+    std::size_t stem = transform.size();
+    while (stem > 0 && std::isdigit(static_cast<unsigned char>(transform[stem - 1])))
+        --stem;
+    return transform.substr(0, stem) + "Shape" + transform.substr(stem);
 }
 
 bool isShape(const Node &node)

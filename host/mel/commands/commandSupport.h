@@ -84,5 +84,7 @@ std::string uniqueName(const SelectionItem &item);
 // The transform above a shape, for commands that mean objects; the node itself if it is no shape.
 NodePtr objectOf(const NodePtr &node);
 bool isShape(const Node &node);
+// How Maya names the shape of a transform, the word before the number: "pCubeShape1" for "pCube1".
+std::string shapeNameFor(const std::string &transform);
 
 } // namespace host::mel

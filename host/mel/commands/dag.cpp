@@ -5,6 +5,7 @@
 
 #include "mel/commands/builtInCommands.h"
 #include "mel/commands/commandSupport.h"
+#include "mel/commands/jointScale.h"
 #include "mel/commands/matrixParts.h"
 
 namespace host::mel
@@ -23,21 +24,6 @@ NodePtr parentOf(const DagPath &path)
 DagPath pathBelow(const NodePtr &node, const DagPath &parent)
 {
     return parent.isNull() ? DagPath({node}) : parent.child(node);
-}
-
-// A joint takes back its parent joint's scale; the connection follows the parent, as in Maya.
-void connectInverseScale(Scene &scene, const NodePtr &child, const NodePtr &newParent)
-{
-    if (!child->isA("joint"))
-        return;
-    const Plug input = child->plug("inverseScale");
-    if (const Connection *source = child->source(input)) {
-        if (!source->node->isA("joint"))
-            return; // somebody else's
-        scene.disconnect(source->plug(), input);
-    }
-    if (newParent && newParent->isA("joint"))
-        scene.connect(newParent->plug("scale"), input);
 }
 
 // Hangs `child` below `parent` (null path: the world) and, unless `keepLocal`, lets it stay where

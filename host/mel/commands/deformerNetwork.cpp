@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "mel/commands/setEditor.h"
 #include "scene/history.h"
 #include "scene/meshGeometry.h"
 
@@ -41,22 +42,10 @@ Deformer createDeformer(Scene &scene, const NodePtr &node, const std::string &se
     return deformer;
 }
 
-void connectNext(Scene &scene, const Plug &source, const Plug &array)
-{
-    scene.connect(source, array.element(scene.nextAvailable(array)));
-}
-
 // The shape's points become members of the deformer's set.
 void joinSet(Scene &scene, const Deformer &deformer, const DagPath &shape)
 {
-    const Plug instance = shape.node()->plug("instObjGroups").element(int(shape.instanceNumber()));
-    const AttributePtr groups = instance.attribute->child("objectGroups");
-    const Plug group = instance.child(groups).element(scene.nextAvailable(instance.child(groups)));
-    scene.connect(deformer.groupId->plug("groupId"), group.child(groups->child("objectGroupId")));
-    scene.connect(deformer.set->plug("memberWireframeColor"),
-                  group.child(groups->child("objectGrpColor")));
-    connectNext(scene, group, deformer.set->plug("dagSetMembers"));
-    connectNext(scene, deformer.groupId->plug("message"), deformer.set->plug("groupNodes"));
+    addObjectGroup(scene, deformer.set, deformer.groupId, shape);
     scene.connect(deformer.node->plug("message"), plugAt(deformer.set, "usedBy[0]"));
 }
 
@@ -214,6 +203,12 @@ void takeGeometryBack(Scene &scene, const NodePtr &mesh)
 Plug plugAt(const NodePtr &node, std::string_view path)
 {
     return resolvePlugPath(node, path, UnknownAttribute::refuse).plug;
+}
+
+void copyGeometry(Scene &scene, const NodePtr &from, const NodePtr &to)
+{
+    for (const char *attribute : kGeometryAttributes)
+        scene.copyData(from, to, attribute);
 }
 
 void attachDeformer(Scene &scene, const NodePtr &deformer, const DagPath &shape)

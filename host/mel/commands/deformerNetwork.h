@@ -18,6 +18,9 @@ namespace host::mel
 // "input[0].groupId" of a node. REQUIRES: there is such a plug.
 Plug plugAt(const NodePtr &node, std::string_view path);
 
+// Gives a new mesh what another one stores of its geometry.
+void copyGeometry(Scene &scene, const NodePtr &from, const NodePtr &to);
+
 // Puts a deformer that has no connections yet in front of a shape, behind the deformers that are
 // there. The first one gets a tweak before it; the geometry that the shape stored or was fed with
 // moves to a new intermediate shape "...Orig". The set, the groupId and the groupParts are named

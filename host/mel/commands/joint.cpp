@@ -2,6 +2,7 @@
 // The joint command: makes a joint below what is selected, and edits or asks one.
 #include "mel/commands/builtInCommands.h"
 #include "mel/commands/commandSupport.h"
+#include "mel/commands/jointScale.h"
 #include "scene/transform.h"
 
 namespace host::mel
@@ -99,10 +100,7 @@ MelValue create(Context &context, const Arguments &arguments)
     Scene &scene = context.scene();
     const NodePtr parent = selectedParent(context);
     const NodePtr joint = scene.createNode("joint", arguments.string("name"), parent);
-    // Scale compensation needs the parent's scale; Maya connects it as soon as joints are parented.
-    if (parent && parent->isA("joint")) {
-        scene.connect(parent->plug("scale"), joint->plug("inverseScale"));
-    }
+    connectInverseScale(scene, joint, parent);
     SelectionItem item;
     item.path = DagPath::first(joint);
     item.node = joint;

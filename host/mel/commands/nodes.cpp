@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// createNode, delete, rename, lockNode, objExists, nodeType.
+// createNode, delete, rename, lockNode, objExists, nodeType, objectType.
 #include <algorithm>
 
 #include "mel/commands/builtInCommands.h"
@@ -169,19 +169,36 @@ MelValue objExists(Context &context, const Arguments &arguments)
     }
 }
 
-MelValue nodeType(Context &context, const Arguments &arguments)
+// The node that the one operand means; that of a component or a plug too.
+const Node &askedNode(Context &context, const Arguments &arguments)
 {
     const std::vector<SelectionItem> items =
         requireName(context.scene(), arguments.objects.front().text);
     if (items.size() > 1)
         throwAmbiguousName(arguments.objects.front().string());
-    const NodeType &type = items.front().node->type();
+    return *items.front().node; // the scene holds it
+}
+
+MelValue nodeType(Context &context, const Arguments &arguments)
+{
+    const NodeType &type = askedNode(context, arguments).type();
     if (!arguments.has("inherited"))
         return type.name;
     std::vector<std::string> names; // from the root down, without "node"
     for (const NodeType *step = &type; step && step->base; step = step->base)
         names.insert(names.begin(), step->name);
     return names;
+}
+
+// Type of a node, or whether it is of a type: exactly with -isType, derived from it with -isAType.
+MelValue objectType(Context &context, const Arguments &arguments)
+{
+    const Node &node = askedNode(context, arguments);
+    if (arguments.has("isType"))
+        return static_cast<long long>(node.type().name == arguments.string("isType"));
+    if (arguments.has("isAType"))
+        return static_cast<long long>(node.isA(arguments.string("isAType")));
+    return node.type().name;
 }
 
 } // namespace
@@ -202,6 +219,7 @@ void addNodeCommands(CommandTable &table)
                              Modes::create | Modes::query}));
     table.add({"objExists", {}, objExists, {1, 1}});
     table.add({"nodeType", {{"i", "inherited"}}, nodeType, {1, 1}});
+    table.add({"objectType", {{"i", "isType", "s"}, {"isa", "isAType", "s"}}, objectType, {1, 1}});
 }
 
 } // namespace host::mel

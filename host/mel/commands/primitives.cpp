@@ -4,7 +4,6 @@
 // With history a node of the command's name feeds the mesh; without, the mesh keeps the points.
 #include "scene/primitives.h"
 
-#include <cctype>
 #include <optional>
 
 #include "mel/commands/builtInCommands.h"
@@ -95,15 +94,6 @@ void applyFlags(Context &context, const Arguments &arguments, const PrimitiveCom
     const Plug axis = primitive->plug("axis");
     for (std::size_t i = 0; i < 3; ++i)
         scene.setValue(axis.child(axis.attribute->children[i]), arguments.of("axis")[i].number());
-}
-
-// "pCubeShape1" for "pCube1": the word goes before the number.
-std::string shapeNameFor(const std::string &transformName)
-{
-    std::size_t stem = transformName.size();
-    while (stem > 0 && std::isdigit(static_cast<unsigned char>(transformName[stem - 1])))
-        --stem;
-    return transformName.substr(0, stem) + "Shape" + transformName.substr(stem);
 }
 
 // Makes the object a member of the shading group that Maya gives to everything new.
