@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <string>
+#include <unordered_set>
 
 #include "mel/interpreter.h"
 
@@ -33,6 +34,9 @@ void importFile(mel::Interpreter &interpreter, const std::string &path,
 
 // Writes the scene. The file is replaced only when all of it could be written. Throws Error.
 void writeFile(Session &session, const std::string &path);
+// The same for some nodes of the scene, see SceneWriter::writePart.
+void writePart(Session &session, const std::string &path,
+               const std::unordered_set<const Node *> &nodes);
 
 // Writes the scene to its file from now on: the session has its name and is unmodified. Throws
 // Error.

@@ -37,6 +37,26 @@ std::string commentText(std::string text)
     return text;
 }
 
+// As its header and its last line call it.
+std::string ownName(const Session &session, const std::string &path)
+{
+    const std::string &named = path == kStandardStream ? session.fileName() : path;
+    return named.empty() ? "untitled.ma" : named.substr(named.rfind('/') + 1);
+}
+
+// The file comes to be when `write` has written all of it.
+template <typename Function>
+void writeThrough(Session &session, const std::string &path, Function write)
+{
+    const SessionMark mark(session.isWritingFile);
+    OutputFile file(path);
+    StatementWriter out([&file](std::string_view text) { file.write(text); });
+    SceneWriter writer(out, session.scene());
+    write(writer, ownName(session, path));
+    out.finish();
+    file.commit();
+}
+
 } // namespace
 
 SceneWriter::SceneWriter(StatementWriter &out, Scene &scene)
@@ -47,7 +67,28 @@ SceneWriter::SceneWriter(StatementWriter &out, Scene &scene)
 void SceneWriter::writeFile(const std::string &fileName)
 {
     writeHeader(fileName);
+    for (const std::string &statement : scene_.facts.references)
+        out_.line(statement);
     writeFacts();
+    writeAllNodes();
+    for (const std::string &statement : scene_.facts.trailing)
+        out_.line(statement);
+    writeEnd(fileName);
+}
+
+void SceneWriter::writePart(const std::string &fileName,
+                            const std::unordered_set<const Node *> &nodes)
+{
+    part_ = &nodes;
+    isForOther_ = true;
+    writeHeader(fileName);
+    writeFacts();
+    writeAllNodes();
+    writeEnd(fileName);
+}
+
+void SceneWriter::writeAllNodes()
+{
     writeBelow(scene_.world());
     writeLateInstances();
     writeDependencyNodes();
@@ -56,8 +97,10 @@ void SceneWriter::writeFile(const std::string &fileName)
             nodes_.writeDefaultNode(node);
     }
     writeConnections();
-    for (const std::string &statement : scene_.facts.trailing)
-        out_.line(statement);
+}
+
+void SceneWriter::writeEnd(const std::string &fileName)
+{
     out_.line("// End of " + commentText(fileName));
 }
 
@@ -83,8 +126,6 @@ void SceneWriter::writeFacts()
 {
     const FileFacts &facts = scene_.facts;
     const FlagNames &flags = style_.flags;
-    for (const std::string &statement : facts.references)
-        out_.line(statement);
     out_.begin("requires").word("maya").quoted(facts.mayaVersion).end();
     for (const std::string &statement : facts.requiredPlugins)
         out_.line(statement);
@@ -100,10 +141,17 @@ bool SceneWriter::isPresent(const NodePtr &node) const
     return std::find(present_.begin(), present_.end(), node) != present_.end();
 }
 
+bool SceneWriter::isInPart(const Node &node) const
+{
+    return !part_ || part_->count(&node) > 0;
+}
+
 // Each node below its first parent; at the others it is an instance of what is there already.
 void SceneWriter::writeBelow(const NodePtr &parent)
 {
     for (const NodePtr &node : parent->children()) {
+        if (!isInPart(*node))
+            continue;
         if (node->parents().front() != parent.get()) {
             writeInstance(node, parent);
             continue;
@@ -147,7 +195,7 @@ void SceneWriter::writeLateInstances()
 void SceneWriter::writeDependencyNodes()
 {
     for (const NodePtr &node : scene_.nodes()) {
-        if (node->isDag() || node->isDefault())
+        if (node->isDag() || node->isDefault() || !isInPart(*node))
             continue;
         if (!isPresent(node))
             nodes_.writeNode(node);
@@ -177,7 +225,8 @@ void SceneWriter::writeConnectionsInto(const NodePtr &node)
     for (const auto &[key, connection] : sources) {
         Plug destination = node->plugOf(key);
         const bool takesNext = destination.isElement() && !destination.attribute->indexMatters;
-        if (isElsewhere && !takesNext)
+        const bool isFromPart = connection.node->isDefault() || isInPart(*connection.node);
+        if (!isFromPart || (isElsewhere && !takesNext))
             continue;
         if (takesNext)
             destination = destination.array();
@@ -192,26 +241,19 @@ void SceneWriter::writeConnectionsInto(const NodePtr &node)
     }
 }
 
-namespace
-{
-
-// As its header and its last line call it.
-std::string ownName(const Session &session, const std::string &path)
-{
-    const std::string &named = path == kStandardStream ? session.fileName() : path;
-    return named.empty() ? "untitled.ma" : named.substr(named.rfind('/') + 1);
-}
-
-} // namespace
-
 void writeFile(Session &session, const std::string &path)
 {
-    const SessionMark mark(session.isWritingFile);
-    OutputFile file(path);
-    StatementWriter out([&file](std::string_view text) { file.write(text); });
-    SceneWriter(out, session.scene()).writeFile(ownName(session, path));
-    out.finish();
-    file.commit();
+    writeThrough(session, path, [](SceneWriter &writer, const std::string &fileName) {
+        writer.writeFile(fileName);
+    });
+}
+
+void writePart(Session &session, const std::string &path,
+               const std::unordered_set<const Node *> &nodes)
+{
+    writeThrough(session, path, [&nodes](SceneWriter &writer, const std::string &fileName) {
+        writer.writePart(fileName, nodes);
+    });
 }
 
 } // namespace host::ma

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "ma/nodeWriter.h"
@@ -20,6 +21,10 @@ public:
     // All of it, header and end included. `fileName` is what the header names: no folder.
     void writeFile(const std::string &fileName);
 
+    // A file of some nodes and the connections among them and with default nodes. A DAG node is
+    // among them only with all its parents. References, light links and metadata stay behind.
+    void writePart(const std::string &fileName, const std::unordered_set<const Node *> &nodes);
+
     // Nodes and connections only, for another scene: what that scene has anyway, default nodes and
     // the nodes in `present`, is named in connections but not changed.
     void writeNodesFor(const std::vector<NodePtr> &present);
@@ -27,6 +32,8 @@ public:
 private:
     void writeHeader(const std::string &fileName);
     void writeFacts();
+    void writeAllNodes();
+    void writeEnd(const std::string &fileName);
     void writeBelow(const NodePtr &parent);
     void writeInstance(const NodePtr &node, const NodePtr &parent);
     void writeLateInstances();
@@ -34,6 +41,7 @@ private:
     void writeConnections();
     void writeConnectionsInto(const NodePtr &node);
     bool isPresent(const NodePtr &node) const;
+    bool isInPart(const Node &node) const;
 
     StatementWriter &out_;
     Scene &scene_;
@@ -41,6 +49,7 @@ private:
     NodeWriter nodes_;
     bool isForOther_ = false;
     std::vector<NodePtr> present_;
+    const std::unordered_set<const Node *> *part_ = nullptr;  // null: everything
     std::vector<NodePtr> written_;                            // in the order of their createNode
     std::unordered_map<const Node *, std::size_t> instances_; // of nodes with several: done so far
 };

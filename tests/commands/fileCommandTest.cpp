@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The file command: its results, what it refuses, and what stands afterwards.
 
-#include <filesystem>
-
 #include "support/sceneFile.h"
 
 namespace
@@ -49,6 +47,37 @@ TEST_F(fileCommand, losesNoChangesUnlessForced)
     EXPECT_EQ(melString("objExists hip") + melString("undoInfo -q"), "00");
 }
 
+// With what the selection needs: transforms above, joints, history, shading; and nothing of others.
+TEST_F(fileCommand, exportsTheSelectionWithWhatItNeeds)
+{
+    const std::string file = path("part.ma");
+    mel("group -em -n rig; group -em -n props; select -cl; joint -n hip; joint -n knee; select -cl;"
+        "polyCube -n body; polyCube -n crate; parent hip body rig; parent crate props;"
+        "skinCluster -tsb -n skin hip knee body; skinCluster -tsb -n other hip crate;"
+        "skinPercent -tv knee 0.25 skin body.vtx[3]; createNode lambert -n red;"
+        "createNode shadingEngine -n redSG; connectAttr red.oc redSG.ss;"
+        "connectAttr -na redSG.pa renderPartition.sets; sets -fe redSG body crate;"
+        "createNode transform -n loose");
+    mel("select -cl");
+    EXPECT_EQ(melError("file -es \"" + file + "\""), "file: Nothing is selected to export.");
+    mel("select body.vtx[0]; file -es \"" + file + "\"");
+    mel("file -f -open \"" + file + "\"");
+    EXPECT_EQ(takeWarnings(), "");
+    EXPECT_EQ(melStrings("ls -type transform -type skinCluster -type objectSet -type lambert"),
+              "lambert1 initialShadingGroup initialParticleSE defaultLightSet defaultObjectSet "
+              "persp top front side rig hip knee body skin skinSet tweakSet1 red redSG");
+    EXPECT_EQ(melStrings("sets -q redSG"), "body");
+    EXPECT_EQ(melStrings("sets -q skinSet"), "body.vtx[0:7]");
+    EXPECT_EQ(melString("getAttr skin.weightList[3].weights[1]"), "0.25");
+    EXPECT_EQ(melStrings("listConnections -s 1 -d 0 -type joint skin.matrix"), "hip knee");
+    EXPECT_EQ(melStrings("listConnections renderPartition.sets"), "redSG");
+    EXPECT_EQ(melStrings("listRelatives -ad rig").find("crate"), std::string::npos);
+
+    mel("file -f -new; select persp; file -es \"" + path("empty.ma") + "\"");
+    mel("file -f -open \"" + path("empty.ma") + "\""); // only what every scene has
+    EXPECT_EQ(melStrings("ls -type transform"), "persp top front side");
+}
+
 TEST_F(fileCommand, refusesWithoutTouchingTheScene)
 {
     mel("createNode transform -n old");
@@ -63,7 +92,7 @@ TEST_F(fileCommand, refusesWithoutTouchingTheScene)
         "file -import \"" + path("nobody.ma") + "\"",
         "file -ea \"" + path("no/such/folder.ma") + "\"",
         "file -ea -type \"mayaBinary\" \"" + binary + "\"",
-        "file -es \"" + path("part.ma") + "\"",
+        "file -es \"" + path("no/such/folder.ma") + "\"",
         "file -r \"" + binary + "\"",
         "file -f -new -save",
         "file",
@@ -72,7 +101,6 @@ TEST_F(fileCommand, refusesWithoutTouchingTheScene)
         EXPECT_NE(melError(call), "");
         EXPECT_EQ(savedText(), before) << call;
     }
-    EXPECT_FALSE(std::filesystem::exists(path("part.ma")));
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include "ma/sessionMark.h"
 #include "mel/commands/builtInCommands.h"
 #include "mel/commands/commandSupport.h"
+#include "mel/commands/exportedNodes.h"
 #include "mel/commands/statementText.h"
 
 namespace host::mel
@@ -150,10 +151,14 @@ MelValue exportAll(Context &context, const Arguments &arguments)
     return path;
 }
 
-MelValue exportSelected(Context &, const Arguments &)
+MelValue exportSelected(Context &context, const Arguments &arguments)
 {
-    throw Error(
-        "file: Exporting the selection only is not supported; -exportAll exports the scene.");
+    const std::string path = writablePath(pathOperand(arguments), arguments);
+    const SelectionList &selection = context.session.selection();
+    if (selection.isEmpty())
+        throw Error("file: Nothing is selected to export.");
+    ma::writePart(context.session, path, nodesToExport(selection.items()));
+    return path;
 }
 
 MelValue reference(Context &, const Arguments &)
