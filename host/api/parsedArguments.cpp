@@ -18,8 +18,12 @@ void refuseUnfit(const mel::Operand &operand, char letter)
         operand.boolean();
         break;
     case 'i':
-    case 'u':
         operand.integer();
+        break;
+    case 'u':
+        if (operand.integer() < 0)
+            throw Error("Invalid arguments '" + operand.string() +
+                        "'.  Expected ( unsigned int ), got [ int ]");
         break;
     case 'd':
         operand.number();

@@ -122,7 +122,6 @@ mel::Command makePluginCommand(Process &process, const PluginCommand &registrati
     mel::Command command;
     command.name = registration.name;
     command.takesRawArguments = true;
-    command.isFromPlugin = true;
     const MSyntax syntax = syntaxOf(registration);
     command.run = [&process, registration, syntax](mel::Context &,
                                                    const mel::Arguments &arguments) {

@@ -134,14 +134,10 @@ struct Command {
     // The objects of a query or an edit where they differ: polyCube makes something out of nothing,
     // and asks one node.
     std::optional<Objects> targets = std::nullopt;
-    // Whether a call is an item of its own on the undo queue (what it records decides in the end).
-    bool isUndoable = true;
     // Whether a file may contain it.
     bool isFileStatement = false;
     // Takes its operands unsorted, flags among them: plug-in commands, which sort with MSyntax.
     bool takesRawArguments = false;
-    // True for commands that a plug-in registered.
-    bool isFromPlugin = false;
 };
 
 class CommandTable
