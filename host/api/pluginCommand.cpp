@@ -79,13 +79,14 @@ MArgList toArgList(const mel::Arguments &arguments)
     return list;
 }
 
-UndoStep makeStep(Process &process, const std::shared_ptr<CommandObject> &object)
+Change makeStep(Process &process, const std::shared_ptr<CommandObject> &object)
 {
     const auto run = [&process, object](MStatus (MPxCommand::*replay)()) {
         const Execution execution(process, object->plugin());
-        return bool((object->command().*replay)());
+        if (!(object->command().*replay)())
+            throw Error(std::string()); // the command has said why
     };
-    return {[run] { return run(&MPxCommand::undoIt); }, [run] { return run(&MPxCommand::redoIt); }};
+    return {[run] { run(&MPxCommand::undoIt); }, [run] { run(&MPxCommand::redoIt); }};
 }
 
 // The syntax with the command's name, for error texts.
@@ -108,10 +109,17 @@ mel::MelValue call(Process &process, const PluginCommand &registration, const MS
     const Execution execution(process, object->plugin());
     UndoQueue &queue = process.session().undo();
     const std::size_t place = queue.openSteps();
+    Change step = makeStep(process, object);
     if (!object->command().doIt(arguments))
         throw Error(std::string()); // the command has said why, or wants nothing said
-    if (object->command().isUndoable() && queue.isRecording())
-        queue.recordAt(place, makeStep(process, object));
+    if (!object->command().isUndoable())
+        return process.commandResult;
+    try {
+        queue.recordAt(place, std::move(step));
+    } catch (...) {
+        step.undo();
+        throw;
+    }
     return process.commandResult;
 }
 

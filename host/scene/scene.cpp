@@ -237,9 +237,15 @@ std::vector<std::string> Scene::namespaces() const
 void Scene::perform(std::function<void()> redo, std::function<void()> undo)
 {
     redo();
+    Change change{std::move(undo), std::move(redo)};
+    try {
+        if (isRecording())
+            recorder_->recordChange(std::move(change));
+    } catch (...) {
+        change.undo();
+        throw;
+    }
     isModified_ = true;
-    if (isRecording())
-        recorder_->recordChange({std::move(undo), std::move(redo)});
 }
 
 RecordingPause::RecordingPause(Scene &scene) : scene_(scene), saved_(scene.recorder())

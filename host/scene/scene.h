@@ -162,12 +162,16 @@ public:
 
 private:
     friend struct SceneEdit;
-    // Runs `redo` and hands both to the recorder.
+    // Runs `redo`, which does all or throws, and hands both to the recorder.
     void perform(std::function<void()> redo, std::function<void()> undo);
     void addDefaultNodes();
     NodePtr addNode(const NodeType &type, std::string name, const NodePtr &parent);
+    // All or nothing, where memory has run out.
     void enter(const NodePtr &node);
+    void enterBelow(const NodePtr &node, const NodePtr &parent, std::size_t place);
+    void enterName(const NodePtr &node, const std::string &name);
     void leave(const NodePtr &node);
+    void leaveName(const NodePtr &node, const std::string &name);
     std::string freeName(std::string_view wanted, bool isDag, const Node *parent) const;
     static void cut(const Plug &source, const Plug &destination);
 

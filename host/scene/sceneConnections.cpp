@@ -85,16 +85,11 @@ struct DerivedMatrix {
     Matrix (*compute)(const DagPath &path);
 };
 
-Matrix parentOf(const DagPath &path)
-{
-    return worldMatrix(path.parent());
-}
-
 const DerivedMatrix kDerivedMatrices[] = {
     {"worldMatrix", worldMatrix},
     {"worldInverseMatrix", [](const DagPath &path) { return inverse(worldMatrix(path)); }},
-    {"parentMatrix", parentOf},
-    {"parentInverseMatrix", [](const DagPath &path) { return inverse(parentOf(path)); }},
+    {"parentMatrix", parentMatrix},
+    {"parentInverseMatrix", [](const DagPath &path) { return inverse(parentMatrix(path)); }},
     {"matrix", [](const DagPath &path) { return localMatrix(*path.node()); }},
     {"xformMatrix", [](const DagPath &path) { return localMatrix(*path.node()); }},
     {"inverseMatrix", [](const DagPath &path) { return inverse(localMatrix(*path.node())); }},
@@ -152,8 +147,13 @@ void Scene::connect(const Plug &source, const Plug &destination, bool force, boo
     addElementsOnTheWay(*this, destination);
     perform(
         [source, destination, lock] {
-            destination.node->sources_[PlugKey(destination)] = endOf(source, lock);
-            source.node->destinations_[PlugKey(source)].push_back(endOf(destination, lock));
+            try {
+                destination.node->sources_[PlugKey(destination)] = endOf(source, lock);
+                source.node->destinations_[PlugKey(source)].push_back(endOf(destination, lock));
+            } catch (...) {
+                cut(source, destination);
+                throw;
+            }
         },
         [source, destination] { cut(source, destination); });
 }
@@ -182,8 +182,10 @@ void Scene::disconnect(const Plug &source, const Plug &destination)
     const std::vector<Connection> before = source.node->destinations(source);
     perform([source, destination] { cut(source, destination); },
             [source, destination, isLocked, before] {
+                std::vector<Connection> ends = before;
+                std::vector<Connection> &place = source.node->destinations_[PlugKey(source)];
                 destination.node->sources_[PlugKey(destination)] = endOf(source, isLocked);
-                source.node->destinations_[PlugKey(source)] = before;
+                place.swap(ends);
             });
 }
 

@@ -74,6 +74,18 @@ void SceneEdit::restore(Node &node, const Attribute *top, int element, const Sna
         *node.weights_ = *snapshot.weights;
 }
 
+void SceneEdit::putBack(Node &node, const Attribute *top, int element, Snapshot &snapshot)
+{
+    if (snapshot.weights)
+        node.weights_.swap(snapshot.weights);
+    snapshot.weights.reset(); // first of all: this gives back what the change has taken
+    if (element == kNoIndex && snapshot.datum) {
+        std::swap(node.data_[top], *snapshot.datum);
+        return;
+    }
+    restore(node, top, element, snapshot);
+}
+
 void SceneEdit::restoreElement(Datum &array, const Attribute &top, int element,
                                const Snapshot &snapshot)
 {
@@ -115,7 +127,12 @@ PackedNumbers &SceneEdit::block(Datum &datum, const Attribute &array)
 void SceneEdit::addOwn(Node &node, const AttributePtr &attribute, std::size_t place)
 {
     node.ownAttributes_.insert(node.ownAttributes_.begin() + long(place), attribute);
-    enterNames(node.ownByName_, attribute);
+    try {
+        enterNames(node.ownByName_, attribute);
+    } catch (...) {
+        removeOwn(node, attribute);
+        throw;
+    }
 }
 
 void SceneEdit::removeOwn(Node &node, const AttributePtr &attribute)

@@ -28,6 +28,8 @@ struct SceneEdit {
     static int elementOf(const Plug &plug, const Attribute &top);
     static SnapshotPtr take(const Node &node, const Attribute *top, int element);
     static void restore(Node &node, const Attribute *top, int element, const Snapshot &snapshot);
+    // The same where memory has run out: takes from the snapshot what is large.
+    static void putBack(Node &node, const Attribute *top, int element, Snapshot &snapshot);
 
     // Runs `change` on the data at `plug` and records how to go back and forth. What is recorded is
     // done whole or, where it throws, not at all.
@@ -48,7 +50,7 @@ struct SceneEdit {
             change();
             record(scene, plug, before);
         } catch (...) {
-            restore(*node, top, element, *before);
+            putBack(*node, top, element, *before);
             throw;
         }
         scene.isModified_ = true;

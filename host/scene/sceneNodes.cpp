@@ -2,6 +2,7 @@
 // Creating, deleting, naming and placing nodes.
 #include <algorithm>
 #include <cctype>
+#include <limits>
 
 #include "scene/instancePaths.h"
 #include "scene/scene.h"
@@ -59,18 +60,58 @@ std::size_t placeOf(const List &list, const Item &item)
     return std::size_t(std::find(list.begin(), list.end(), item) - list.begin());
 }
 
+// Child and parent know each other, or, where memory has run out, neither the other.
+void link(std::vector<Node *> &parents, std::size_t instance, Node *parent,
+          std::vector<NodePtr> &children, std::size_t place, const NodePtr &child)
+{
+    insertAt(parents, instance, parent);
+    try {
+        insertAt(children, place, child);
+    } catch (...) {
+        parents.erase(parents.begin() + long(std::min(instance, parents.size() - 1)));
+        throw;
+    }
+}
+
+constexpr std::size_t kLast = std::numeric_limits<std::size_t>::max();
+
 } // namespace
 
-void Scene::enter(const NodePtr &node)
+void Scene::enterName(const NodePtr &node, const std::string &name)
 {
-    ++structureRevision_;
-    node->scene_ = this;
-    nodes_[node->serial_] = node;
-    std::vector<NodePtr> &named = byName_[node->name_];
+    const auto found = byName_.find(name);
+    if (found == byName_.end()) {
+        byName_.emplace(name, std::vector<NodePtr>{node});
+        return;
+    }
+    std::vector<NodePtr> &named = found->second;
     const auto place = std::upper_bound(
         named.begin(), named.end(), node,
         [](const NodePtr &one, const NodePtr &other) { return one->serial_ < other->serial_; });
     named.insert(place, node);
+}
+
+void Scene::leaveName(const NodePtr &node, const std::string &name)
+{
+    const auto found = byName_.find(name);
+    std::vector<NodePtr> &named = found->second;
+    named.erase(std::find(named.begin(), named.end(), node));
+    if (named.empty())
+        byName_.erase(found);
+    numberedNames_.forget(name);
+}
+
+void Scene::enter(const NodePtr &node)
+{
+    nodes_[node->serial_] = node;
+    try {
+        enterName(node, node->name_);
+    } catch (...) {
+        nodes_.erase(node->serial_);
+        throw;
+    }
+    ++structureRevision_;
+    node->scene_ = this;
 }
 
 void Scene::leave(const NodePtr &node)
@@ -78,11 +119,20 @@ void Scene::leave(const NodePtr &node)
     ++structureRevision_;
     node->scene_ = nullptr;
     nodes_.erase(node->serial_);
-    std::vector<NodePtr> &named = byName_[node->name_];
-    named.erase(std::find(named.begin(), named.end(), node));
-    if (named.empty())
-        byName_.erase(node->name_);
-    numberedNames_.forget(node->name_);
+    leaveName(node, node->name_);
+}
+
+void Scene::enterBelow(const NodePtr &node, const NodePtr &parent, std::size_t place)
+{
+    enter(node);
+    if (!parent)
+        return;
+    try {
+        link(node->parents_, kLast, parent.get(), parent->children_, place, node);
+    } catch (...) {
+        leave(node);
+        throw;
+    }
 }
 
 std::string Scene::freeName(std::string_view wanted, bool isDag, const Node *parent) const
@@ -119,12 +169,9 @@ NodePtr Scene::addNode(const NodeType &type, std::string name, const NodePtr &pa
         node->uuid_ = newUuid();
     const NodePtr above = node->isDag() ? (parent ? parent : world_) : nullptr;
     const auto redo = [this, node, above] {
-        enter(node);
-        if (above) {
-            node->parents_.push_back(above.get());
-            above->children_.push_back(node);
+        enterBelow(node, above, kLast);
+        if (above)
             ++dagNodesCreated_;
-        }
     };
     const auto undo = [this, node, above] {
         leave(node);
@@ -224,13 +271,7 @@ void Scene::deleteNode(const NodePtr &node)
                 above->children_.erase(above->children_.begin() + long(place));
             }
         },
-        [this, node, above, place] {
-            enter(node);
-            if (above) {
-                node->parents_.push_back(above.get());
-                insertAt(above->children_, place, node);
-            }
-        });
+        [this, node, above, place] { enterBelow(node, above, place); });
 }
 
 std::string Scene::rename(const NodePtr &node, std::string_view name)
@@ -247,10 +288,11 @@ std::string Scene::rename(const NodePtr &node, std::string_view name)
         return before;
     const Node *above = node->parents_.empty() ? nullptr : node->parents_.front();
     const std::string after = freeName(name, node->isDag(), above);
-    const auto change = [this, node](const std::string &newName) {
-        leave(node);
-        node->name_ = newName;
-        enter(node);
+    const auto change = [this, node](std::string newName) {
+        enterName(node, newName);
+        leaveName(node, node->name_);
+        node->name_.swap(newName);
+        ++structureRevision_;
         ++renames_;
     };
     perform([change, after] { change(after); }, [change, before] { change(before); });
@@ -315,8 +357,7 @@ void Scene::addInstance(const NodePtr &node, const NodePtr &parent)
     perform(
         [this, node, to] {
             ++structureRevision_;
-            node->parents_.push_back(to.get());
-            to->children_.push_back(node);
+            link(node->parents_, kLast, to.get(), to->children_, kLast, node);
         },
         [this, node, to] {
             ++structureRevision_;
@@ -340,8 +381,7 @@ void Scene::removeInstance(const NodePtr &node, const NodePtr &parent)
         },
         [this, node, from, place, instance] {
             ++structureRevision_;
-            insertAt(node->parents_, instance, from.get());
-            insertAt(from->children_, place, node);
+            link(node->parents_, instance, from.get(), from->children_, place, node);
         });
 }
 

@@ -173,13 +173,9 @@ void Session::adjustSelection(const std::vector<SelectionItem> &items, Adjustmen
 
 void Session::recordSelection(const SelectionList &before, const SelectionList &orderedBefore)
 {
-    undo_.record({[this, before, orderedBefore] {
-                      restoreSelection(before, orderedBefore);
-                      return true;
-                  },
+    undo_.record({[this, before, orderedBefore] { restoreSelection(before, orderedBefore); },
                   [this, after = selection_, orderedAfter = ordered_] {
                       restoreSelection(after, orderedAfter);
-                      return true;
                   }});
 }
 
@@ -192,12 +188,8 @@ void Session::restoreSelection(const SelectionList &list, const SelectionList &o
 
 void Session::setHilited(SelectionList list)
 {
-    const auto set = [this](const SelectionList &value) {
-        hilited_ = value;
-        return true;
-    };
-    undo_.record(
-        {[set, before = hilited_] { return set(before); }, [set, list] { return set(list); }});
+    const auto set = [this](const SelectionList &value) { hilited_ = value; };
+    undo_.record({[set, before = hilited_] { set(before); }, [set, list] { set(list); }});
     hilited_ = std::move(list);
 }
 

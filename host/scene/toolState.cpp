@@ -44,8 +44,8 @@ void ToolState::setSkinPaint(SkinPaintTool tool)
 void ToolState::change(const State &after)
 {
     if (undo_.isRecording())
-        undo_.record({[this, before = state_] { return restore(before), true; },
-                      [this, after] { return restore(after), true; }});
+        undo_.record(
+            {[this, before = state_] { restore(before); }, [this, after] { restore(after); }});
     restore(after);
 }
 

@@ -6,21 +6,15 @@
 #pragma once
 
 #include <cstddef>
-#include <deque>
-#include <functional>
+#include <list>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "scene/change.h"
 
 namespace host
 {
-
-struct UndoStep {
-    // Both return false on failure, which makes the queue drop everything it holds.
-    std::function<bool()> undo;
-    std::function<bool()> redo;
-};
 
 class UndoQueue : public ChangeRecorder
 {
@@ -30,7 +24,7 @@ public:
     void setOn(bool on, bool flush = true);
     // True while a step would be kept: on, a chunk open, not suspended, not undoing.
     bool isRecording() const override;
-    void recordChange(Change change) override;
+    void recordChange(Change &&change) override { record(std::move(change)); }
     // Nothing is recorded while suspended; calls nest (executeCommand without undo).
     void suspend() { ++suspended_; }
     void resume() { --suspended_; }
@@ -40,16 +34,16 @@ public:
     // Drops the chunk if nothing was recorded in it.
     void closeChunk();
     // Inside a chunk only; clears the redo side.
-    void record(UndoStep step);
+    void record(Change &&step);
     // The same, in front of the steps that were recorded after the first `place` ones: a command's
     // own step goes before those of the commands that it ran, and is thus undone after them.
-    void recordAt(std::size_t place, UndoStep step);
+    void recordAt(std::size_t place, Change &&step);
     // How many steps the open chunk holds; rollback(n) undoes and drops those after the first n.
-    std::size_t openSteps() const { return open_.steps.size(); }
+    std::size_t openSteps() const { return open_.empty() ? 0 : open_.front().steps.size(); }
     void rollback(std::size_t steps);
 
     enum class Outcome { done, nothingLeft, failed };
-    // A failing step empties the queue.
+    // A step that throws empties the queue.
     Outcome undo();
     Outcome redo();
     bool isUndoing() const { return isUndoing_; }
@@ -67,17 +61,22 @@ public:
 private:
     struct Chunk {
         std::string name;
-        std::vector<UndoStep> steps;
+        std::vector<Change> steps;
     };
+    // Lists: chunks pass between them without a call for memory.
+    using Chunks = std::list<Chunk>;
+    Outcome replay(Chunks &from, Chunks &to, bool &isReplaying,
+                   void (*run)(std::vector<Change> &steps));
+
     bool isOn_ = true;
     bool isUndoing_ = false;
     bool isRedoing_ = false;
     int suspended_ = 0;
     int openChunks_ = 0;
     std::size_t length_ = 0;
-    Chunk open_;
-    std::deque<Chunk> done_;
-    std::deque<Chunk> undone_;
+    Chunks open_; // one, or none
+    Chunks done_;
+    Chunks undone_;
 };
 
 } // namespace host

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: Apache-2.0
+//
+// Memory runs out anywhere in a change: the scene is as it was, and so is the undo queue.
+
+#include <cstdlib>
+#include <new>
+
+#include <gtest/gtest.h>
+
+#include "scene/sampleScene.h"
+#include "scene/sceneChanges.h"
+#include "scene/sceneText.h"
+
+namespace
+{
+
+long allocationsLeft = -1; // negative: no limit
+
+} // namespace
+
+void *operator new(std::size_t size)
+{
+    if (allocationsLeft == 0)
+        throw std::bad_alloc();
+    if (allocationsLeft > 0)
+        --allocationsLeft;
+    if (void *memory = std::malloc(size > 0 ? size : 1))
+        return memory;
+    throw std::bad_alloc();
+}
+
+void operator delete(void *memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void *memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+using namespace host;
+
+namespace
+{
+
+// As a command runs it: false if memory ran out, and all is taken back.
+bool makeWithin(Session &session, const SceneChange &change, long allocations)
+{
+    UndoQueue &queue = session.undo();
+    queue.openChunk(change.what);
+    bool isDone = true;
+    try {
+        allocationsLeft = allocations;
+        change.make(session.scene());
+        allocationsLeft = -1;
+    } catch (const std::bad_alloc &) {
+        allocationsLeft = -1;
+        queue.rollback(0);
+        isDone = false;
+    }
+    queue.closeChunk();
+    return isDone;
+}
+
+} // namespace
+
+TEST(outOfMemory, leavesTheSceneAsItWas)
+{
+    for (const SceneChange &change : sceneChanges()) {
+        Session session;
+        buildSampleScene(session);
+        session.undo().flush();
+        const std::string before = sessionText(session);
+        long allocations = 0;
+        while (!makeWithin(session, change, allocations)) {
+            ASSERT_EQ(sessionText(session), before) << change.what << " with " << allocations;
+            ASSERT_EQ(session.undo().undoCount(), 0u) << change.what;
+            allocations += 1 + allocations / 16;
+        }
+        EXPECT_TRUE(session.undoOnce());
+        EXPECT_EQ(sessionText(session), before) << change.what;
+    }
+}
