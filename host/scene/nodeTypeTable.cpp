@@ -69,6 +69,7 @@ maxRotLimit mxrl double3 default=45
 minScaleLimit mnsl double3 default=-1
 maxScaleLimit mxsl double3 default=1
 inheritsTransform it bool default=1
+offsetParentMatrix opm matrix
 displayHandle dh bool
 displayLocalAxis dla bool
 displayRotatePivot drp bool

@@ -2,6 +2,7 @@
 #include "scene/transform.h"
 
 #include <cmath>
+#include <unordered_map>
 
 #include "scene/scene.h"
 
@@ -101,6 +102,41 @@ Matrix jointMatrix(const Node &joint)
     return multiply(matrix, translation(vectorOf(joint, "translate")));
 }
 
+// The matrix that arrives at offsetParentMatrix. World matrices may feed each other through it,
+// side by side and in circles: while the outermost is evaluated, each is evaluated once, and is the
+// identity where it would depend on itself.
+Matrix connectedOffset(const Plug &offset)
+{
+    static thread_local std::unordered_map<const Node *, Matrix> known;
+    static thread_local unsigned depth = 0;
+    const auto [entry, isNew] = known.try_emplace(offset.node.get(), kIdentityMatrix);
+    if (!isNew)
+        return entry->second;
+    struct DepthMark {
+        DepthMark() { ++depth; }
+        ~DepthMark()
+        {
+            if (--depth == 0)
+                known.clear();
+        }
+    } const mark;
+    const Value value = evaluate(offset);
+    const Matrix *matrix = std::get_if<Matrix>(&value);
+    return matrix ? known[offset.node.get()] = *matrix : kIdentityMatrix;
+}
+
+Matrix offsetParentMatrix(const Node &transform)
+{
+    if (!transform.isA("transform"))
+        return kIdentityMatrix;
+    const Plug offset = transform.plug("offsetParentMatrix");
+    if (transform.source(offset))
+        return connectedOffset(offset);
+    const Value stored = transform.storedValue(offset);
+    const Matrix *matrix = std::get_if<Matrix>(&stored);
+    return matrix ? *matrix : kIdentityMatrix;
+}
+
 double determinant3(const Matrix &m)
 {
     return m[0] * (m[5] * m[10] - m[6] * m[9]) - m[1] * (m[4] * m[10] - m[6] * m[8]) +
@@ -189,15 +225,21 @@ Matrix worldMatrix(const DagPath &path)
     Matrix matrix = kIdentityMatrix;
     for (auto node = path.nodes().rbegin(); node != path.nodes().rend(); ++node) {
         matrix = multiply(matrix, localMatrix(**node));
+        matrix = multiply(matrix, offsetParentMatrix(**node));
         if ((*node)->isA("transform") && evaluateNumber((*node)->plug("inheritsTransform")) == 0.0)
             break;
     }
     return matrix;
 }
 
+Matrix parentMatrix(const DagPath &path)
+{
+    return multiply(offsetParentMatrix(*path.node()), worldMatrix(path.parent()));
+}
+
 void setWorldTranslation(Scene &scene, const DagPath &transform, const skin::Vec3 &position)
 {
-    const skin::Vec3 local = transformPoint(position, inverse(worldMatrix(transform.parent())));
+    const skin::Vec3 local = transformPoint(position, inverse(parentMatrix(transform)));
     const Plug translate = transform.node()->plug("translate");
     const double numbers[3] = {local.x, local.y, local.z};
     for (std::size_t i = 0; i < 3; ++i)

@@ -5,6 +5,7 @@
 //   transform: S * Sh * R(ro) * T with scale and rotate pivots around them
 //   joint:     S * R(ra) * R(r) * R(jo) * IS * T, IS = inverse of the parent's scale if
 //              segmentScaleCompensate is on
+//   world:     local * offsetParentMatrix * world of the parent
 #pragma once
 
 #include "scene/dagPath.h"
@@ -24,6 +25,9 @@ skin::Vec3 translationOf(const Matrix &matrix);
 
 Matrix localMatrix(const Node &transform);
 Matrix worldMatrix(const DagPath &path); // of the path's last transform
+// What takes the space of the last transform's local matrix to the world: its offsetParentMatrix
+// and the world matrix of its parent.
+Matrix parentMatrix(const DagPath &path);
 // Sets translate so that the transform's origin lies at a world position.
 void setWorldTranslation(Scene &scene, const DagPath &transform, const skin::Vec3 &position);
 

@@ -79,6 +79,44 @@ TEST(worldMatrix, leavesTheParentsScaleOutOfAJointThatCompensates)
     expectPoint(scene, "knee", {1, 0, 0}, {0, 4, 0}, "unless it does not compensate");
 }
 
+TEST(worldMatrix, hasTheOffsetBetweenNodeAndParent)
+{
+    Scene scene;
+    const NodePtr up = scene.createNode("transform", "up");
+    const NodePtr low = scene.createNode("joint", "low", up);
+    scene.createNode("transform", "driver");
+    set(scene, {{"up.tx", 10}, {"up.rz", 90}, {"low.ty", 1}, {"driver.sx", 2}, {"driver.tx", 3}});
+    Matrix offset = kIdentityMatrix;
+    offset[13] = 5;
+    scene.setValue(plugNamed(scene, "low.opm"), offset);
+    expectPoint(scene, "low", {1, 0, 0}, {4, 1, 0}, "stored");
+    const Value above = evaluate(plugNamed(scene, "low.parentMatrix[0]"));
+    EXPECT_EQ(translationOf(std::get<Matrix>(above)).x, 5) << "local * parentMatrix = world";
+    scene.connect(plugNamed(scene, "driver.wm[0]"), plugNamed(scene, "low.opm"));
+    expectPoint(scene, "low", {1, 0, 0}, {9, 5, 0}, "connected");
+    setWorldTranslation(scene, DagPath::first(low), {0, 0, 0});
+    expectPoint(scene, "low", {0, 0, 0}, {0, 0, 0}, "placed");
+}
+
+// Each of a chain of joints hangs on the one before twice: as child and by its offset.
+TEST(worldMatrix, ofOffsetsThatFeedEachOtherEndsSoon)
+{
+    Scene scene;
+    NodePtr above;
+    for (int i = 0; i < 60; ++i) {
+        const NodePtr joint = scene.createNode("joint", "j" + std::to_string(i), above);
+        scene.setValue(joint->plug("translateX"), 1.0);
+        if (above)
+            scene.connect(above->plug("worldMatrix").element(0), joint->plug("opm"));
+        above = joint;
+        if (i == 2)
+            expectPoint(scene, "j2", {0, 0, 0}, {7, 0, 0}, "1, 1 + 1 + 1, 1 + 3 + 3");
+    }
+    EXPECT_GT(translationOf(worldMatrix(DagPath::first(above))).x, 1e17);
+    scene.connect(above->plug("worldMatrix").element(0), plugNamed(scene, "j0.opm"));
+    worldMatrix(DagPath::first(above)); // a circle ends
+}
+
 TEST(worldMatrix, isOfTheInstanceAskedFor)
 {
     Session session;

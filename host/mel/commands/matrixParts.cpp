@@ -197,7 +197,7 @@ void setLocalMatrix(Scene &scene, const NodePtr &transform, const Matrix &matrix
 void setWorldMatrix(Scene &scene, const DagPath &transform, const Matrix &matrix,
                     TurnJointBy turnJointBy)
 {
-    const Matrix above = worldMatrix(transform.parent());
+    const Matrix above = parentMatrix(transform);
     setLocalMatrix(scene, transform.node(), multiply(matrix, inverse(above)), turnJointBy);
 }
 

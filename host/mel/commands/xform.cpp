@@ -226,7 +226,7 @@ Vec3 worldPosition(const DagPath &transform)
 
 void setWorldPosition(Scene &scene, const DagPath &transform, const Vec3 &position)
 {
-    const Matrix above = inverse(worldMatrix(transform.parent()));
+    const Matrix above = inverse(parentMatrix(transform));
     const Vec3 step =
         transformPoint(position, above) - transformPoint(worldPosition(transform), above);
     setVector(scene, transform.node(), "translate",
@@ -239,7 +239,7 @@ Turns turnsOf(const DagPath &transform)
     Turns turns;
     turns.axis = rotationOf(vectorOf(node, "rotateAxis"), 0);
     turns.own = rotationOf(vectorOf(node, "rotate"), rotateOrderOf(node));
-    turns.after = partsOf(worldMatrix(transform.parent())).rotation;
+    turns.after = partsOf(parentMatrix(transform)).rotation;
     if (node.isA("joint"))
         turns.after = multiply(rotationOf(vectorOf(node, "jointOrient"), 0), turns.after);
     return turns;
