@@ -25,6 +25,20 @@ skin::Vec3 bindPosition(const Node &cluster, const Influence &influence)
     return translationOf(worldMatrix(influence.path));
 }
 
+// Where a joint that is no influence stood when the skin was bound: the cluster's pose knows, or
+// the joint itself; one that never was in a pose stays where it stands now.
+skin::Vec3 posePosition(const Node &cluster, const DagPath &joint)
+{
+    const Connection *pose = cluster.source(cluster.plug("bindPose"));
+    Value value = joint.node()->storedValue(joint.node()->plug("bindPose"));
+    for (const Connection &user : joint.node()->destinations(joint.node()->plug("message"))) {
+        if (pose && user.node == pose->node && user.attribute->longName == "members")
+            value = evaluate(pose->node->plug("worldMatrix").element(user.indices[0]));
+    }
+    const Matrix *matrix = std::get_if<Matrix>(&value);
+    return translationOf(matrix ? *matrix : worldMatrix(joint));
+}
+
 // The bind pose as the distance law wants it: each influence with the bones to its child joints.
 std::vector<skin::BindInfluence> bindInfluences(const SkinCluster &cluster)
 {
@@ -41,7 +55,7 @@ std::vector<skin::BindInfluence> bindInfluences(const SkinCluster &cluster)
             const int index = cluster.indexOf(*child);
             bone.childJoints.push_back(
                 index >= 0 ? bindPosition(node, cluster.influences()[std::size_t(index)])
-                           : translationOf(worldMatrix(influence.path.child(child))));
+                           : posePosition(node, influence.path.child(child)));
         }
         result.push_back(std::move(bone));
     }

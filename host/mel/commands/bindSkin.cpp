@@ -4,6 +4,7 @@
 #include <numeric>
 
 #include "mel/commands/deformerNetwork.h"
+#include "scene/evaluation.h"
 #include "scene/transform.h"
 
 namespace host::mel
@@ -80,6 +81,25 @@ NodePtr bindSkin(Scene &scene, const BindOptions &options)
     const SkinCluster cluster(node);
     resetToBindWeights(scene, cluster, allVertices(cluster));
     return node;
+}
+
+void warnOfUnevaluated(Output &output, const std::vector<DagPath> &influences)
+{
+    std::string text;
+    std::size_t others = 0;
+    for (const DagPath &influence : influences) {
+        const NodePtr mover = unevaluatedMover(influence);
+        if (mover && !text.empty())
+            ++others;
+        else if (mover)
+            text = "skinCluster: '" + influence.partialName() + "' hangs on '" +
+                   mover->uniqueName() + "' (" + mover->type().name +
+                   "), which is not evaluated: its bind matrix may be wrong.";
+    }
+    if (others > 0)
+        text += " So may those of " + std::to_string(others) + " other influences.";
+    if (!text.empty())
+        output.warning(text);
 }
 
 void removeInfluence(Scene &scene, const SkinCluster &cluster, std::size_t influence)

@@ -8,6 +8,7 @@
 
 #include "mel/commands/bindPose.h"
 #include "scene/dagPath.h"
+#include "scene/output.h"
 #include "scene/scene.h"
 #include "scene/skinCluster.h"
 
@@ -31,6 +32,9 @@ NodePtr bindSkin(Scene &scene, const BindOptions &options);
 // attribute lockInfluenceWeights if it has none.
 void connectInfluence(Scene &scene, const NodePtr &skinCluster, const DagPath &influence, int index,
                       double dropoff);
+
+// Warns, once, of influences that are moved by a node that the host does not evaluate.
+void warnOfUnevaluated(Output &output, const std::vector<DagPath> &influences);
 
 // Spreads the weights of an influence over the others, if the skin cluster normalises, and cuts its
 // connections. Its bindPreMatrix stays, as in Maya. Who gets the weights is a guess: the others

@@ -200,6 +200,7 @@ MelValue createSkinCluster(Context &context, const Arguments &arguments)
     }
     takeOperands(context, arguments, options);
     const NodePtr node = bindSkin(scene, options);
+    warnOfUnevaluated(context.session.output(), options.influences);
     if (arguments.boolean("removeUnusedInfluence", false))
         removeUnusedInfluences(scene, SkinCluster(node));
     return std::vector<std::string>{node->name()};

@@ -112,6 +112,7 @@ void addInfluences(const Edit &edit)
     }
     for (const DagPath &path : paths)
         addOneInfluence(edit, path);
+    warnOfUnevaluated(edit.context.session.output(), paths);
 }
 
 void removeInfluences(const Edit &edit)
