@@ -7,6 +7,8 @@
 
 #include <maya/MGlobal.h>
 
+#include <new>
+
 namespace
 {
 
@@ -23,6 +25,14 @@ bool canTake(const editedShape &shape)
     return status && influenceCount == shape.influenceCount;
 }
 
+// Of a call that was refused for want of memory nothing is known: the whole edit is taken back.
+MStatus enoughMemory(MStatus status)
+{
+    if (status == MStatus::kInsufficientMemory)
+        throw std::bad_alloc();
+    return status;
+}
+
 } // namespace
 
 shapeWriter::shapeWriter(const editedShape &shape, normalization normalize)
@@ -37,8 +47,8 @@ shapeWriter::shapeWriter(const editedShape &shape, normalization normalize)
 MStatus shapeWriter::setInfluence(const MObject &component, int influence, double value,
                                   MDoubleArray *old)
 {
-    return skinCluster_.setWeights(path_, component, static_cast<unsigned int>(influence), value,
-                                   true, old);
+    return enoughMemory(skinCluster_.setWeights(
+        path_, component, static_cast<unsigned int>(influence), value, true, old));
 }
 
 MStatus shapeWriter::setInfluence(const MObject &component, int influence, MDoubleArray &values,
@@ -48,18 +58,19 @@ MStatus shapeWriter::setInfluence(const MObject &component, int influence, MDoub
     if (old)
         read(component, *old);
     MIntArray influences(1, influence);
-    return skinCluster_.setWeights(path_, component, influences, values, true);
+    return enoughMemory(skinCluster_.setWeights(path_, component, influences, values, true));
 }
 
 MStatus shapeWriter::setAll(const MObject &component, MDoubleArray &values, MDoubleArray *old)
 {
-    return skinCluster_.setWeights(path_, component, allInfluences_, values, true, old);
+    return enoughMemory(
+        skinCluster_.setWeights(path_, component, allInfluences_, values, true, old));
 }
 
 bool shapeWriter::read(const MObject &component, MDoubleArray &weights) const
 {
     unsigned int influenceCount = 0;
-    if (skinCluster_.getWeights(path_, component, weights, influenceCount))
+    if (enoughMemory(skinCluster_.getWeights(path_, component, weights, influenceCount)))
         return true;
     weights.clear();
     return false;

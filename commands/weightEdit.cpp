@@ -10,6 +10,8 @@
 
 #include <maya/MGlobal.h>
 
+#include <new>
+
 namespace
 {
 
@@ -39,9 +41,28 @@ MStatus weightEdit::write(weightTableModel *table)
     // Writing may change Maya's selection, and the table must not follow that.
     const QScopedValueRollback<bool> restoreAutoUpdate(autoUpdate);
     autoUpdate = false;
-    const MStatus status = write_(edit_);
+    MStatus status;
+    try {
+        status = write_(edit_);
+    } catch (const std::bad_alloc &) {
+        status = giveUp(table);
+    }
     refresh(table);
     return status;
+}
+
+// Memory has run out half-way: the skin clusters get back what they have lost so far.
+MStatus weightEdit::giveUp(weightTableModel *table)
+{
+    MGlobal::displayError(kOutOfMemory);
+    try {
+        replayDisplaced(edit_);
+    } catch (const std::bad_alloc &) {
+        if (table)
+            table->clearWeightList(); // rather no numbers than wrong ones
+    }
+    edit_.oldWeights.clear();
+    return MStatus::kFailure;
 }
 
 MStatus weightEdit::putBack(weightTableModel *table)
@@ -55,6 +76,12 @@ MStatus weightEdit::putBack(weightTableModel *table)
 
 void weightEdit::refresh(weightTableModel *table) const
 {
-    if (table && hasDisplaced())
+    if (!table || !hasDisplaced())
+        return;
+    try {
         table->refreshWritten(verticesOf(edit_));
+    } catch (const std::bad_alloc &) {
+        table->clearWeightList();
+        MGlobal::displayError(kOutOfMemory);
+    }
 }

@@ -3,6 +3,7 @@
 #include "model/weightTableModel.h"
 
 #include "model/mayaText.h"
+#include "model/requireMemory.h"
 #include "model/messages.h"
 #include "model/precisionRounding.h"
 #include "model/selectedShapes.h"
@@ -40,6 +41,14 @@ void gatherShape(const selectedShape &shape, weightList &weights)
     }
 }
 
+// With what the view and Maya's own allocations keep for each row, roughly.
+std::size_t memoryOfRows(int rows, int joints)
+{
+    const std::size_t besideCells = 200;
+    return static_cast<std::size_t>(rows) *
+           (static_cast<std::size_t>(joints + 1) * sizeof(double) + besideCells);
+}
+
 // As Maya lists it: "body", "body.f[0]".
 MString firstName(const MSelectionList &selection)
 {
@@ -67,19 +76,17 @@ void weightTableModel::loadSelection()
     MGlobal::getActiveSelectionList(selection);
     wholeListRounding rounding(settings_.precision);
 
-    if (autoUpdate && selection.isEmpty()) {
-        roundLoadedRows(rounding);
-    } else {
+    try {
+        if (autoUpdate && selection.isEmpty())
+            roundLoadedRows(rounding);
+        else
+            readSelection(selection, rounding);
+        weights_.readJointHeaders();
+    } catch (const std::bad_alloc &) {
         weights_ = weightList();
-        weights_.notes.precision = settings_.precision;
         forgetSnapshots();
-        const QVector<selectedShape> shapes = selectedShapes(selection);
-        for (int i = 0; i < shapes.size(); ++i)
-            gatherShape(shapes.at(i), weights_);
-        for (int shape = 0; shape < weights_.shapeCount(); ++shape)
-            appendShapeBlock(shape, rounding);
+        MGlobal::displayError(kOutOfMemory);
     }
-    weights_.readJointHeaders();
     endResetModel();
 
     // Once each, however many rows are like that.
@@ -87,6 +94,18 @@ void weightTableModel::loadSelection()
         MGlobal::displayError(kRowWithoutColumns);
     if (rounding.metRowWithoutWeight())
         MGlobal::displayError(kRowWithoutWeight);
+}
+
+void weightTableModel::readSelection(const MSelectionList &selection, wholeListRounding &rounding)
+{
+    weights_ = weightList();
+    weights_.notes.precision = settings_.precision;
+    forgetSnapshots();
+    const QVector<selectedShape> shapes = selectedShapes(selection);
+    for (int i = 0; i < shapes.size(); ++i)
+        gatherShape(shapes.at(i), weights_);
+    for (int shape = 0; shape < weights_.shapeCount(); ++shape)
+        appendShapeBlock(shape, rounding);
 }
 
 // Appends a shape row and the shape's vertex rows. All weights are read with one call; whether a
@@ -102,6 +121,7 @@ void weightTableModel::appendShapeBlock(int shape, wholeListRounding &rounding)
     shapeReader reader(weights_, shape);
     const double tolerance = normalizationTolerance(settings_.precision);
     QSet<int> unnormalizedRows;
+    requireMemory(memoryOfRows(reader.vertexCount(), weights_.jointCount()));
     weights_.rows.reserve(shapeRowIndex + 1 + reader.vertexCount());
     weights_.rowNames.reserve(shapeRowIndex + 1 + reader.vertexCount());
     for (int k = 0; k < reader.vertexCount(); ++k) {

@@ -6,6 +6,7 @@ const char kNothingLoaded[] = "There is no weight list displayed in the window."
 const char kNoCellSelected[] = "There is no cell selected.";
 
 // Loading.
+const char kOutOfMemory[] = "Out of memory.";
 const char kNothingSkinnedSelected[] = // ^1s: the first object that is selected
     "Nothing was loaded: ^1s is neither a skinned mesh nor vertices of one.";
 

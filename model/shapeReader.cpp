@@ -9,6 +9,8 @@
 #include <maya/MItGeometry.h>
 #include <maya/MItMeshVertex.h>
 
+#include <new>
+
 namespace
 {
 
@@ -88,6 +90,8 @@ bool shapeReader::read(const MObject &component, int first, int end)
     end_ = end;
     const MStatus status =
         MFnSkinCluster(skinCluster_).getWeights(path_, component, weights_, influenceCount_);
+    if (status == MStatus::kInsufficientMemory)
+        throw std::bad_alloc();
     return status && static_cast<int>(influenceCount_) == builder_.influenceCount() &&
            weights_.length() == static_cast<unsigned int>(end - first) * influenceCount_;
 }

@@ -22,6 +22,7 @@
 #include "model/writtenVertices.h"
 
 #include <maya/MMessage.h>
+#include <maya/MSelectionList.h>
 
 #include <functional>
 
@@ -74,7 +75,7 @@ public:
 
     // Replaces the table by the weights of what is selected in Maya. Shapes without a skin cluster,
     // and those of which faces or edges are selected, add nothing. While auto update is on, an
-    // empty selection keeps the table.
+    // empty selection keeps the table. It ends empty, with an error, where memory does not suffice.
     void loadSelection();
 
     // Selects the rows of the mesh vertices that are selected in Maya, and no others. Picked faces
@@ -210,6 +211,8 @@ private:
     QVariant rowHeaderData(int row, int role) const;
     QVariant columnHeaderData(int column, int role) const;
 
+    // Replaces the table by what is selected.
+    void readSelection(const MSelectionList &selection, wholeListRounding &rounding);
     void appendShapeBlock(int shape, wholeListRounding &rounding);
     void roundLoadedRows(wholeListRounding &rounding);
 

@@ -14,6 +14,8 @@
 #include <maya/MGlobal.h>
 #include <maya/MString.h>
 
+#include <new>
+
 namespace
 {
 
@@ -59,7 +61,17 @@ korvexCmd::~korvexCmd()
 
 MStatus korvexCmd::doIt(const MArgList &arguments)
 {
-    return reportDone(run(arguments));
+    return guarded([&] { return run(arguments); });
+}
+
+// Maya must get no exception.
+MStatus korvexCmd::guarded(const std::function<MStatus()> &work) const
+{
+    try {
+        return reportDone(work());
+    } catch (const std::bad_alloc &) {
+        return refuse(kOutOfMemory);
+    }
 }
 
 MStatus korvexCmd::run(const MArgList &arguments)
@@ -86,15 +98,19 @@ MStatus korvexCmd::run(const MArgList &arguments)
 
 MStatus korvexCmd::redoIt()
 {
-    return reportDone(edit_.write(activeModel));
+    return guarded([this] { return edit_.write(activeModel); });
 }
 
 MStatus korvexCmd::undoIt()
 {
-    const MStatus status = edit_.putBack(activeModel);
-    if (activeModel)
-        activeModel->trail().undone(number_);
-    return status;
+    try {
+        const MStatus status = edit_.putBack(activeModel);
+        if (activeModel)
+            activeModel->trail().undone(number_);
+        return status;
+    } catch (const std::bad_alloc &) {
+        return refuse(kOutOfMemory);
+    }
 }
 
 // A command that failed is not kept by Maya; still it may have written.

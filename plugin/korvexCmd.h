@@ -11,6 +11,8 @@
 #include <maya/MStatus.h>
 #include <maya/MSyntax.h>
 
+#include <functional>
+
 class korvexCmd : public MPxCommand
 {
 public:
@@ -31,6 +33,7 @@ public:
 
 private:
     MStatus run(const MArgList &arguments);
+    MStatus guarded(const std::function<MStatus()> &work) const;
     MStatus reportDone(MStatus status) const;
 
     const int number_ = editTrail::newEdit();
