@@ -34,6 +34,24 @@ int runInBatch(int argumentCount, char **arguments, const Options &options)
     return exitCode;
 }
 
+// What the user does comes from here: of what an event's work throws, nothing may reach Qt.
+class Application : public QApplication
+{
+public:
+    using QApplication::QApplication;
+    bool notify(QObject *receiver, QEvent *event) override
+    {
+        Process *maya = Process::current();
+        bool isDone = false;
+        const auto work = [&] { isDone = QApplication::notify(receiver, event); };
+        if (!maya)
+            work();
+        else
+            host::app::succeeds(*maya, work);
+        return isDone;
+    }
+};
+
 // What Qt says while it looks for a display; when it finds none it would abort.
 void reportNoDisplay(QtMsgType type, const QMessageLogContext &, const QString &)
 {
@@ -90,7 +108,8 @@ int runWindow(Process &maya, const Options &options)
         printProblems(maya);
     MainWindow window(maya);
     window.show();
-    const bool succeeded = doSteps(maya, window, options);
+    bool succeeded = false;
+    host::app::succeeds(maya, [&] { succeeded = doSteps(maya, window, options); });
     if (drawsPicture)
         return succeeded && writePicture(window, options.picture) ? 0 : 1;
     return maya.interpreter().quitRequested ? maya.interpreter().exitCode : QApplication::exec();
@@ -104,7 +123,7 @@ int runInWindow(int argumentCount, char **arguments, const Options &options)
     if (!options.picture.isEmpty() && !choosesPlatform)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QtMessageHandler usual = qInstallMessageHandler(reportNoDisplay);
-    QApplication application(argumentCount, arguments);
+    Application application(argumentCount, arguments);
     qInstallMessageHandler(usual);
     QApplication::setStyle("Fusion");
     const int exitCode =

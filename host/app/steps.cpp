@@ -3,7 +3,6 @@
 
 #include <QFile>
 #include <cstdio>
-#include <functional>
 #include <new>
 #include <vector>
 
@@ -20,21 +19,6 @@ namespace
 
 constexpr int kMaxScriptBytes = 64 << 20;
 constexpr qint64 kBlockBytes = 1 << 20;
-
-// MEL's errors name a line; a step of the program has none.
-bool succeeds(Process &process, const std::function<void()> &step)
-{
-    Output &output = process.session().output();
-    try {
-        step();
-        return true;
-    } catch (const std::bad_alloc &) {
-        output.error("Out of memory.");
-    } catch (const std::exception &error) {
-        output.error(error.what());
-    }
-    return false;
-}
 
 bool isStandardStream(const QString &path)
 {
@@ -85,6 +69,21 @@ void runMel(Process &process, const QString &mel, const QString &file)
 }
 
 } // namespace
+
+// MEL's errors name a line; a step of the program has none.
+bool succeeds(Process &process, const std::function<void()> &step)
+{
+    Output &output = process.session().output();
+    try {
+        step();
+        return true;
+    } catch (const std::bad_alloc &) {
+        output.error("Out of memory.");
+    } catch (const std::exception &error) {
+        output.error(error.what());
+    }
+    return false;
+}
 
 bool openScene(Process &process, const QString &path)
 {

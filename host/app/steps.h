@@ -5,6 +5,8 @@
 // standard input or output.
 #pragma once
 
+#include <functional>
+
 #include "app/options.h"
 
 namespace host
@@ -14,6 +16,9 @@ class Process;
 
 namespace host::app
 {
+
+// Runs `step`. False if it throws, which is shown as an error of the session.
+bool succeeds(Process &process, const std::function<void()> &step);
 
 // False if the scene could not be opened; the session's scene is the one before.
 bool openScene(Process &process, const QString &path);
