@@ -48,7 +48,7 @@ private:
     {
         if (!seen_.insert(node.get()).second)
             return nullptr;
-        if (!node->isA("transform") && !node->isA("shape"))
+        if (!node->type().isKnown || !(node->isA("transform") || node->isA("shape")))
             return node;
         for (const char *name : kMoving) {
             const Plug plug(node, node->findAttribute(name));

@@ -2,6 +2,7 @@
 #include "scene/skinCluster.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "scene/scene.h"
@@ -134,12 +135,29 @@ struct SkinCluster::NewRows {
     void store(const NodePtr &node) const
     {
         node->scene()->changeWeights(node, [this](WeightStore &weights) {
-            std::size_t first = 0;
-            for (const End &row : ends) {
-                weights.setRowFrom(row.vertex, {entries.data() + first, entries.data() + row.end});
-                first = row.end;
+            // A copy shares the pages, and costs little beside that many rows.
+            constexpr std::size_t kRowsPerPage = 32;
+            std::optional<WeightStore> before;
+            if (ends.size() * kRowsPerPage >= weights.vertexCount())
+                before = weights;
+            try {
+                storeRows(weights);
+            } catch (...) { // memory has run out
+                if (before)
+                    weights = std::move(*before);
+                throw;
             }
         });
+    }
+
+private:
+    void storeRows(WeightStore &weights) const
+    {
+        std::size_t first = 0;
+        for (const End &row : ends) {
+            weights.setRowFrom(row.vertex, {entries.data() + first, entries.data() + row.end});
+            first = row.end;
+        }
     }
 };
 

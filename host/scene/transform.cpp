@@ -102,28 +102,39 @@ Matrix jointMatrix(const Node &joint)
     return multiply(matrix, translation(vectorOf(joint, "translate")));
 }
 
-// The matrix that arrives at offsetParentMatrix. World matrices may feed each other through it,
-// side by side and in circles: while the outermost is evaluated, each is evaluated once, and is the
-// identity where it would depend on itself.
-Matrix connectedOffset(const Plug &offset)
+// World matrices may feed each other through offsetParentMatrix, side by side and in circles. While
+// the outermost is evaluated, what arrives at each such plug is kept; it is the identity where it
+// would depend on itself.
+class OffsetMemory
 {
+public:
+    OffsetMemory() { ++depth; }
+    ~OffsetMemory()
+    {
+        if (--depth == 0)
+            known.clear();
+    }
+    OffsetMemory(const OffsetMemory &) = delete;
+    OffsetMemory &operator=(const OffsetMemory &) = delete;
+
+    static Matrix connectedMatrix(const Plug &offset)
+    {
+        const auto [entry, isNew] = known.try_emplace(offset.node.get(), kIdentityMatrix);
+        if (!isNew)
+            return entry->second;
+        const Value value = evaluate(offset);
+        if (const Matrix *matrix = std::get_if<Matrix>(&value))
+            known[offset.node.get()] = *matrix;
+        return known[offset.node.get()];
+    }
+
+private:
     static thread_local std::unordered_map<const Node *, Matrix> known;
-    static thread_local unsigned depth = 0;
-    const auto [entry, isNew] = known.try_emplace(offset.node.get(), kIdentityMatrix);
-    if (!isNew)
-        return entry->second;
-    struct DepthMark {
-        DepthMark() { ++depth; }
-        ~DepthMark()
-        {
-            if (--depth == 0)
-                known.clear();
-        }
-    } const mark;
-    const Value value = evaluate(offset);
-    const Matrix *matrix = std::get_if<Matrix>(&value);
-    return matrix ? known[offset.node.get()] = *matrix : kIdentityMatrix;
-}
+    static thread_local unsigned depth;
+};
+
+thread_local std::unordered_map<const Node *, Matrix> OffsetMemory::known;
+thread_local unsigned OffsetMemory::depth = 0;
 
 Matrix offsetParentMatrix(const Node &transform)
 {
@@ -131,7 +142,7 @@ Matrix offsetParentMatrix(const Node &transform)
         return kIdentityMatrix;
     const Plug offset = transform.plug("offsetParentMatrix");
     if (transform.source(offset))
-        return connectedOffset(offset);
+        return OffsetMemory::connectedMatrix(offset);
     const Value stored = transform.storedValue(offset);
     const Matrix *matrix = std::get_if<Matrix>(&stored);
     return matrix ? *matrix : kIdentityMatrix;
@@ -222,6 +233,7 @@ Matrix localMatrix(const Node &transform)
 
 Matrix worldMatrix(const DagPath &path)
 {
+    const OffsetMemory memory;
     Matrix matrix = kIdentityMatrix;
     for (auto node = path.nodes().rbegin(); node != path.nodes().rend(); ++node) {
         matrix = multiply(matrix, localMatrix(**node));
@@ -234,6 +246,7 @@ Matrix worldMatrix(const DagPath &path)
 
 Matrix parentMatrix(const DagPath &path)
 {
+    const OffsetMemory memory;
     return multiply(offsetParentMatrix(*path.node()), worldMatrix(path.parent()));
 }
 

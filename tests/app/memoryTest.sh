@@ -7,22 +7,22 @@
 
 set -uo pipefail
 
-program=$1
+program=$(realpath "$1")
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 export XDG_CONFIG_HOME=$folder/settings QT_QPA_PLATFORM=offscreen
 cd "$folder" || exit 1
 
 # limited <megabytes> <arguments...>
-limited() { (ulimit -v $(($1 * 1024)) && "$program" "${@:2}"); }
+limited() { (ulimit -v $(($1 * 1024)) && timeout 60 "$program" "${@:2}"); }
 
 if ! limited 4000 --version >out 2>&1; then
     echo "this build needs more address space than there is (a sanitizer's)"
     exit 77
 fi
 
-joints=100
-script="polyPlane -sx 150 -sy 150 -n body; select -cl;"
+joints=200
+script="polyPlane -sx 200 -sy 200 -n body; select -cl;"
 for ((i = 0; i < joints; i++)); do
     script+="joint -p 0 0 0.0$i;"
     names+=" joint$((i + 1))"

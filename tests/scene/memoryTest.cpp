@@ -14,16 +14,15 @@
 namespace
 {
 
-long allocationsLeft = -1; // negative: no limit
+// The request after that many is refused, as one for a large block is; -1: none.
+long requestsLeft = -1;
 
 } // namespace
 
 void *operator new(std::size_t size)
 {
-    if (allocationsLeft == 0)
+    if (requestsLeft >= 0 && requestsLeft-- == 0)
         throw std::bad_alloc();
-    if (allocationsLeft > 0)
-        --allocationsLeft;
     if (void *memory = std::malloc(size > 0 ? size : 1))
         return memory;
     throw std::bad_alloc();
@@ -45,17 +44,17 @@ namespace
 {
 
 // As a command runs it: false if memory ran out, and all is taken back.
-bool makeWithin(Session &session, const SceneChange &change, long allocations)
+bool makeWithin(Session &session, const SceneChange &change, long requests)
 {
     UndoQueue &queue = session.undo();
     queue.openChunk(change.what);
     bool isDone = true;
     try {
-        allocationsLeft = allocations;
+        requestsLeft = requests;
         change.make(session.scene());
-        allocationsLeft = -1;
+        requestsLeft = -1;
     } catch (const std::bad_alloc &) {
-        allocationsLeft = -1;
+        requestsLeft = -1;
         queue.rollback(0);
         isDone = false;
     }
@@ -72,11 +71,11 @@ TEST(outOfMemory, leavesTheSceneAsItWas)
         buildSampleScene(session);
         session.undo().flush();
         const std::string before = sessionText(session);
-        long allocations = 0;
-        while (!makeWithin(session, change, allocations)) {
-            ASSERT_EQ(sessionText(session), before) << change.what << " with " << allocations;
+        long requests = 0;
+        while (!makeWithin(session, change, requests)) {
+            ASSERT_EQ(sessionText(session), before) << change.what << " with " << requests;
             ASSERT_EQ(session.undo().undoCount(), 0u) << change.what;
-            allocations += 1 + allocations / 16;
+            requests += 1 + requests / 16;
         }
         EXPECT_TRUE(session.undoOnce());
         EXPECT_EQ(sessionText(session), before) << change.what;

@@ -24,16 +24,16 @@ TEST_F(bindPlaces, areWarnedOfWhereANodeMovesAJointThatIsNotEvaluated)
         {"connectAttr a.s b.is; connectAttr ctl.t a.t; connectAttr ctl.wm[0] b.opm;", "a b", ""},
         {"connectAttr curve.o b.tx;", "a b",
          "skinCluster: 'b' hangs on 'curve' (animCurveTL), which is not evaluated: its bind matrix "
-         "may be wrong.\n"},
+         "may be wrong."},
         {"connectAttr mm.o rig.opm;", "a b",
          "skinCluster: 'a' hangs on 'mm' (multMatrix), which is not evaluated: its bind matrix may "
-         "be wrong. So may those of 1 other influences.\n"},
+         "be wrong. So may those of 1 other influences."},
         {"connectAttr curve.o ctl.rx; connectAttr ctl.wm[0] b.opm;", "b",
          "skinCluster: 'b' hangs on 'curve' (animCurveTL), which is not evaluated: its bind matrix "
-         "may be wrong.\n"},
+         "may be wrong."},
         {"", "inFur",
          "skinCluster: 'inFur' hangs on 'fur' (furRoot), which is not evaluated: its bind matrix "
-         "may be wrong.\n"},
+         "may be wrong."},
     };
     for (const auto &c : cases) {
         ASSERT_TRUE(open(write("rig.ma", std::string(kRig) + c.statement + "\n")));

@@ -155,7 +155,9 @@ int addMember(Scene &scene, const NodePtr &pose, const DagPath &path, bool isInf
     const int known = memberIndex(*pose, *path.node());
     if (known >= 0)
         return known;
-    const DagPath above = path.parent();
+    DagPath above = path.parent();
+    while (!above.isNull() && !above.node()->isA("transform"))
+        above = above.parent(); // of a type that the host does not know
     const int parent = above.isNull() ? -1 : addMember(scene, pose, above, false);
 
     const int index = scene.nextAvailable(pose->plug("members"));
