@@ -93,12 +93,12 @@ void Scene::enterName(const NodePtr &node, const std::string &name)
 
 void Scene::leaveName(const NodePtr &node, const std::string &name)
 {
+    numberedNames_.forget(name); // first: it may throw
     const auto found = byName_.find(name);
     std::vector<NodePtr> &named = found->second;
     named.erase(std::find(named.begin(), named.end(), node));
     if (named.empty())
         byName_.erase(found);
-    numberedNames_.forget(name);
 }
 
 void Scene::enter(const NodePtr &node)
@@ -116,10 +116,10 @@ void Scene::enter(const NodePtr &node)
 
 void Scene::leave(const NodePtr &node)
 {
+    leaveName(node, node->name_);
     ++structureRevision_;
     node->scene_ = nullptr;
     nodes_.erase(node->serial_);
-    leaveName(node, node->name_);
 }
 
 void Scene::enterBelow(const NodePtr &node, const NodePtr &parent, std::size_t place)
