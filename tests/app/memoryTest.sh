@@ -37,7 +37,7 @@ until limited "$least" --picture small.png >out 2>&1; do
 done
 
 shortages=0
-for ((extra = 16; extra < 400; extra += 16)); do
+for ((extra = 32; extra < 400; extra += 40)); do
     limited $((least + extra)) --edit big.ma --picture big.png >out 2>err
     code=$?
     if [ "$code" -gt 1 ]; then
