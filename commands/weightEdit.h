@@ -27,8 +27,8 @@ public:
     preparation prepare(const editKind &kind, const weightTableModel *table);
 
     // Writes what is prepared: all of it, or where preparing failed, what there was until then.
-    // Nothing is done, and that succeeds, if nothing was ever prepared. Where memory runs out on the
-    // way, what was written is put back.
+    // Nothing is done, and that succeeds, if nothing was ever prepared. Where memory runs out on
+    // the way, what was written is put back.
     MStatus write(weightTableModel *table);
     // Puts back what was displaced. Fails if that is nothing.
     MStatus putBack(weightTableModel *table);
