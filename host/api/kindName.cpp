@@ -133,23 +133,12 @@ constexpr Kind kKinds[] = {
 };
 #undef KIND
 
-const Kind *findKind(MFn::Type type)
-{
-    for (const Kind &kind : kKinds)
-        if (kind.type == type)
-            return &kind;
-    return nullptr;
-}
-
 } // namespace
 
 const char *host::kindName(MFn::Type type)
 {
-    const Kind *kind = findKind(type);
-    return kind ? kind->name : "kInvalid";
-}
-
-bool MFn::isType(MFn::Type type)
-{
-    return type != MFn::kInvalid && findKind(type);
+    for (const Kind &kind : kKinds)
+        if (kind.type == type)
+            return kind.name;
+    return "kInvalid";
 }

@@ -199,14 +199,4 @@ const NodeType &NodeTypes::findOrLearn(std::string_view name, std::string_view b
     return type;
 }
 
-std::vector<std::string> NodeTypes::builtInNames() const
-{
-    std::vector<std::string> names;
-    for (const auto &type : types_) {
-        if (type->isKnown)
-            names.push_back(type->name);
-    }
-    return names;
-}
-
 } // namespace host

@@ -45,8 +45,6 @@ public:
     // The type, taken in as an unknown one derived from `base` when it is new: "dagNode" for a
     // node that a file puts below a parent, "node" for any other.
     const NodeType &findOrLearn(std::string_view name, std::string_view base);
-    // Names of the built-in types, in the table's order.
-    std::vector<std::string> builtInNames() const;
 
 private:
     NodeType &add(std::string_view name, const NodeType *base);

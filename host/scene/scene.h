@@ -54,7 +54,6 @@ public:
     // --- Finding ------------------------------------------------------------------------------
     // All nodes in order of creation; the world is not among them.
     std::vector<NodePtr> nodes() const;
-    std::size_t nodeCount() const { return nodes_.size(); }
     const NodePtr &world() const { return world_; } // parent of the topmost DAG nodes
     // Nodes of that name ("hip", "rig:hip", ":hip" for the root namespace). No paths.
     std::vector<NodePtr> nodesNamed(std::string_view name) const;

@@ -77,14 +77,6 @@ std::size_t WeightStore::rowCount() const
     return count;
 }
 
-std::size_t WeightStore::entryCount() const
-{
-    std::size_t count = 0;
-    for (const PageSlot &slot : pages_)
-        count += slot.page->entries.size();
-    return count;
-}
-
 bool WeightStore::hasRow(std::size_t vertex) const
 {
     const Page *page = findPage(vertex / kPageRows);

@@ -61,9 +61,8 @@ public:
     // The highest existing vertex + 1; 0 for an empty store.
     std::size_t vertexCount() const;
 
-    // How many rows exist (an empty row counts, a gap does not) and how many weights they hold.
+    // How many rows exist: an empty row counts, a gap does not.
     std::size_t rowCount() const;
-    std::size_t entryCount() const;
 
     bool hasRow(std::size_t vertex) const;
 

@@ -133,8 +133,6 @@ public:
         kUnitConversion,
         kControllerTag,
     };
-
-    static bool isType(MFn::Type type); // one of the above, but for kInvalid
 };
 
 MAYA_API_NAMESPACE_EXIT

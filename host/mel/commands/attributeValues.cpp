@@ -171,11 +171,6 @@ Value takeValue(std::string_view type, ValueTokens &tokens)
     return OpaqueValue{std::string(type), tokens.rest()};
 }
 
-bool isUnderstoodType(std::string_view type)
-{
-    return findType(type) != nullptr;
-}
-
 std::string quoted(std::string_view text)
 {
     return written(Operand{text, true});

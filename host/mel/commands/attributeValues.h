@@ -54,9 +54,6 @@ private:
 // the table is kept as text, to the end of the statement.
 Value takeValue(std::string_view type, ValueTokens &tokens);
 
-// Whether `type` is one of those that takeValue understands rather than keeps.
-bool isUnderstoodType(std::string_view type);
-
 // A string in quotes, escaped as Maya ASCII and MEL want it.
 std::string quoted(std::string_view text);
 // An operand as it stood in its statement.
