@@ -4,8 +4,8 @@
 # machine is made ready.
 
 # qt6-base-dev and qtbase5-dev bring Qt's platform plug-ins xcb (a display) and offscreen (none) with them.
-readonly buildPackages=(g++ cmake ninja-build qt6-base-dev tao-pegtl-dev libgtest-dev libgmock-dev
-    libbenchmark-dev fonts-dejavu-core)
+readonly buildPackages=(g++ cmake ninja-build qt6-base-dev tao-pegtl-dev libimath-dev libgtest-dev
+    libgmock-dev libbenchmark-dev fonts-dejavu-core)
 readonly qt5Packages=(qtbase5-dev)
 readonly waylandPackages=(qt6-wayland)
 readonly checkPackages=(clang-format git)

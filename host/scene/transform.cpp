@@ -4,6 +4,7 @@
 #include <cmath>
 #include <unordered_map>
 
+#include "scene/rotation.h"
 #include "scene/scene.h"
 
 namespace host
@@ -11,8 +12,6 @@ namespace host
 
 namespace
 {
-
-constexpr double kRadiansPerDegree = 3.14159265358979323846 / 180.0;
 
 Matrix translation(const skin::Vec3 &offset)
 {
@@ -26,34 +25,6 @@ Matrix translation(const skin::Vec3 &offset)
 skin::Vec3 negated(const skin::Vec3 &v)
 {
     return {-v.x, -v.y, -v.z};
-}
-
-// Rotation about one axis (0 x, 1 y, 2 z), row vectors.
-Matrix rotationAbout(int axis, double degrees)
-{
-    const double sine = std::sin(degrees * kRadiansPerDegree);
-    const double cosine = std::cos(degrees * kRadiansPerDegree);
-    const int next = (axis + 1) % 3;
-    const int last = (axis + 2) % 3;
-    Matrix matrix = kIdentityMatrix;
-    matrix[std::size_t(next * 4 + next)] = cosine;
-    matrix[std::size_t(next * 4 + last)] = sine;
-    matrix[std::size_t(last * 4 + next)] = -sine;
-    matrix[std::size_t(last * 4 + last)] = cosine;
-    return matrix;
-}
-
-// In the order of the rotateOrder enum: the first axis turns first.
-constexpr int kRotateOrders[6][3] = {{0, 1, 2}, {1, 2, 0}, {2, 0, 1},
-                                     {0, 2, 1}, {1, 0, 2}, {2, 1, 0}};
-
-Matrix rotation(const skin::Vec3 &degrees, int order = 0)
-{
-    const double angles[3] = {degrees.x, degrees.y, degrees.z};
-    Matrix matrix = kIdentityMatrix;
-    for (const int axis : kRotateOrders[order])
-        matrix = multiply(matrix, rotationAbout(axis, angles[axis]));
-    return matrix;
 }
 
 Matrix scaling(const skin::Vec3 &scale)
@@ -74,27 +45,12 @@ Matrix shearing(const skin::Vec3 &shear)
     return matrix;
 }
 
-skin::Vec3 vectorOf(const Node &node, std::string_view attribute)
-{
-    const Plug plug = node.plug(attribute);
-    double numbers[3];
-    for (std::size_t i = 0; i < 3; ++i)
-        numbers[i] = evaluateNumber(plug.child(plug.attribute->children[i]));
-    return {numbers[0], numbers[1], numbers[2]};
-}
-
-int rotateOrderOf(const Node &node)
-{
-    const int order = int(evaluateNumber(node.plug("rotateOrder")));
-    return order >= 0 && order < 6 ? order : 0;
-}
-
 Matrix jointMatrix(const Node &joint)
 {
     Matrix matrix = scaling(vectorOf(joint, "scale"));
-    matrix = multiply(matrix, rotation(vectorOf(joint, "rotateAxis")));
-    matrix = multiply(matrix, rotation(vectorOf(joint, "rotate"), rotateOrderOf(joint)));
-    matrix = multiply(matrix, rotation(vectorOf(joint, "jointOrient")));
+    matrix = multiply(matrix, rotationOf(vectorOf(joint, "rotateAxis")));
+    matrix = multiply(matrix, rotationOf(vectorOf(joint, "rotate"), rotateOrderOf(joint)));
+    matrix = multiply(matrix, rotationOf(vectorOf(joint, "jointOrient")));
     if (evaluateNumber(joint.plug("segmentScaleCompensate")) != 0.0) {
         const skin::Vec3 above = vectorOf(joint, "inverseScale");
         matrix = multiply(matrix, inverse(scaling(above)));
@@ -155,6 +111,21 @@ double determinant3(const Matrix &m)
 }
 
 } // namespace
+
+skin::Vec3 vectorOf(const Node &node, std::string_view attribute)
+{
+    const Plug plug = node.plug(attribute);
+    double numbers[3];
+    for (std::size_t i = 0; i < 3; ++i)
+        numbers[i] = evaluateNumber(plug.child(plug.attribute->children[i]));
+    return {numbers[0], numbers[1], numbers[2]};
+}
+
+int rotateOrderOf(const Node &node)
+{
+    const int order = int(evaluateNumber(node.plug("rotateOrder")));
+    return order >= 0 && order < 6 ? order : 0;
+}
 
 Matrix multiply(const Matrix &a, const Matrix &b)
 {
@@ -219,8 +190,8 @@ Matrix localMatrix(const Node &transform)
         translation(scalePivot),
         translation(vectorOf(transform, "scalePivotTranslate")),
         translation(negated(rotatePivot)),
-        rotation(vectorOf(transform, "rotateAxis")),
-        rotation(vectorOf(transform, "rotate"), rotateOrderOf(transform)),
+        rotationOf(vectorOf(transform, "rotateAxis")),
+        rotationOf(vectorOf(transform, "rotate"), rotateOrderOf(transform)),
         translation(rotatePivot),
         translation(vectorOf(transform, "rotatePivotTranslate")),
         translation(vectorOf(transform, "translate")),

@@ -8,6 +8,8 @@
 //   world:     local * offsetParentMatrix * world of the parent
 #pragma once
 
+#include <string_view>
+
 #include "scene/dagPath.h"
 #include "scene/value.h"
 #include "skin/vec3.h"
@@ -22,6 +24,10 @@ Matrix multiply(const Matrix &a, const Matrix &b);
 Matrix inverse(const Matrix &matrix);
 skin::Vec3 transformPoint(const skin::Vec3 &point, const Matrix &matrix);
 skin::Vec3 translationOf(const Matrix &matrix);
+
+// The three numbers of a transform's attribute ("translate").
+skin::Vec3 vectorOf(const Node &transform, std::string_view attribute);
+int rotateOrderOf(const Node &transform); // 0 to 5
 
 Matrix localMatrix(const Node &transform);
 Matrix worldMatrix(const DagPath &path); // of the path's last transform

@@ -7,6 +7,7 @@
 # A layer is a folder. The table says what it may include beside itself: other layers, single files, and
 #   Qt      Qt's headers (<QString>, <QtGlobal>)
 #   PEGTL   the parser library's (<tao/pegtl.hpp>)
+#   Imath   the mathematics library's (<Imath/ImathEuler.h>)
 # host/include is the Maya API: <maya/...>. Everybody may include the standard library.
 
 cmake_minimum_required(VERSION 3.24)
@@ -15,7 +16,7 @@ set(arrows
   # layer             may include
   "host/include       Qt"
   "host/skin          "
-  "host/scene         host/skin"
+  "host/scene         host/skin Imath"
   "host/mel/commands  host/mel host/scene host/skin host/ma"
   "host/mel           host/scene PEGTL"
   "host/ma            host/mel host/scene"
@@ -43,7 +44,7 @@ function(find_layer path layer_result allowed_result)
   set(${layer_result} "" PARENT_SCOPE)
 endfunction()
 
-# Sets `result` to what `included` means in the file `path`: a path in the checkout, "Qt", "PEGTL", "system", or
+# Sets `result` to what `included` means in the file `path`: a path in the checkout, "Qt", "PEGTL", "Imath", "system", or
 # "unknown" if it is written as a file of ours and there is none.
 function(resolve_include path quoted included result)
   set(folders "" host/ host/include/)
@@ -67,6 +68,8 @@ function(resolve_include path quoted included result)
     set(kind Qt)
   elseif(included MATCHES "^tao/")
     set(kind PEGTL)
+  elseif(included MATCHES "^Imath/")
+    set(kind Imath)
   endif()
   set(${result} ${kind} PARENT_SCOPE)
 endfunction()

@@ -68,6 +68,16 @@ TEST_P(pose, staysWhereItIsBelowAnotherParent)
     expectNear(worldMatrix("low"), before);
 }
 
+// Where the middle one of the three angles is close to 90 degrees, the other two are hard to tell.
+TEST_P(pose, staysWhereItIsNearThePole)
+{
+    constexpr const char *kMiddle[] = {"ry", "rz", "rx", "rz", "rx", "ry"}; // by rotate order
+    mel(std::string("setAttr low.") + kMiddle[GetParam() % 6] + " 89.999999");
+    const std::vector<double> before = worldMatrix("low");
+    mel("parent low up");
+    expectNear(worldMatrix("low"), before);
+}
+
 TEST_P(pose, isFoundForAMatrix)
 {
     mel("createNode transform -n model");

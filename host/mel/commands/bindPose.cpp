@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <unordered_set>
 
+#include "scene/rotation.h"
 #include "scene/transform.h"
 
 namespace host::mel
@@ -26,19 +27,6 @@ std::array<double, 3> triple(const Node &node, const char *attribute)
     for (std::size_t i = 0; i < 3; ++i)
         numbers[i] = evaluateNumber(plug.child(plug.attribute->children[i]));
     return numbers;
-}
-
-// x y z w of the rotation that turns about x, then y, then z.
-std::array<double, 4> quaternionOf(const std::array<double, 3> &degrees)
-{
-    double s[3];
-    double c[3];
-    for (std::size_t i = 0; i < 3; ++i) {
-        s[i] = std::sin(degrees[i] * kRadiansPerDegree / 2);
-        c[i] = std::cos(degrees[i] * kRadiansPerDegree / 2);
-    }
-    return {s[0] * c[1] * c[2] - c[0] * s[1] * s[2], c[0] * s[1] * c[2] + s[0] * c[1] * s[2],
-            c[0] * c[1] * s[2] - s[0] * s[1] * c[2], c[0] * c[1] * c[2] + s[0] * s[1] * s[2]};
 }
 
 // A transform's parts as one matrix value, in the order in which Maya ASCII has them.
@@ -79,8 +67,10 @@ OpaqueValue xformOf(const Node &transform)
     for (const char *attribute : {"translate", "shear", "scalePivot", "scalePivotTranslate",
                                   "rotatePivot", "rotatePivotTranslate"})
         text.add(triple(transform, attribute));
-    text.add(quaternionOf(triple(transform, "rotateAxis")));
-    text.add(quaternionOf(triple(transform, "jointOrient")));
+    for (const char *attribute : {"rotateAxis", "jointOrient"}) {
+        const auto [x, y, z] = triple(transform, attribute);
+        text.add(quaternionOf({x, y, z}));
+    }
     text.add(isJoint ? triple(transform, "inverseScale") : std::array<double, 3>{1, 1, 1});
     return text.value(!isJoint || evaluateNumber(transform.plug("segmentScaleCompensate")) != 0);
 }

@@ -12,14 +12,8 @@ namespace
 
 using skin::Vec3;
 
-constexpr double kDegreesPerRadian = 180.0 / 3.14159265358979323846;
-
 // What a matrix product and its way back leave of values that did not change.
 constexpr double kNoise = 1e-12;
-
-// Axes in the order of the rotateOrder enum, the first one turns first.
-constexpr std::size_t kOrders[6][3] = {{0, 1, 2}, {1, 2, 0}, {2, 0, 1},
-                                       {0, 2, 1}, {1, 0, 2}, {2, 1, 0}};
 
 Vec3 row(const Matrix &matrix, std::size_t index)
 {
@@ -46,12 +40,6 @@ Matrix linearPart(Matrix matrix)
 {
     matrix[12] = matrix[13] = matrix[14] = 0.0;
     return matrix;
-}
-
-int rotateOrderOf(const Node &transform)
-{
-    const int order = int(evaluateNumber(transform.plug("rotateOrder")));
-    return order >= 0 && order < 6 ? order : 0;
 }
 
 void turnJoint(Scene &scene, const NodePtr &joint, const Matrix &turn, TurnJointBy by)
@@ -83,6 +71,7 @@ Matrix withoutCompensation(const Node &joint, const Matrix &matrix)
 
 } // namespace
 
+// Imath has this too, but gives back plain scales less often to the bit, and none where one is 0.
 MatrixParts partsOf(const Matrix &matrix)
 {
     MatrixParts parts;
@@ -109,50 +98,6 @@ MatrixParts partsOf(const Matrix &matrix)
     }
     parts.rotation = fromRows(rows);
     return parts;
-}
-
-Vec3 anglesOf(const Matrix &rotation, int rotateOrder)
-{
-    const auto [i, j, k] = kOrders[rotateOrder];
-    const double sign = rotateOrder < 3 ? 1.0 : -1.0; // of the cyclic orders and their mirrors
-    const auto at = [&rotation](std::size_t r, std::size_t c) { return rotation[r * 4 + c]; };
-    double angles[3] = {};
-    const double sine = std::fmax(-1.0, std::fmin(1.0, -sign * at(i, k)));
-    angles[j] = std::asin(sine);
-    if (std::fabs(sine) < 1.0 - 1e-12) {
-        angles[i] = std::atan2(sign * at(j, k), at(k, k));
-        angles[k] = std::atan2(sign * at(i, j), at(i, i));
-    } else { // the first and last axis fall together: the first one takes the turn
-        angles[i] = std::atan2(-sign * at(k, j), at(j, j));
-    }
-    return Vec3{angles[0], angles[1], angles[2]} * kDegreesPerRadian;
-}
-
-Matrix rotationOf(const Vec3 &degrees, int rotateOrder)
-{
-    const double angles[3] = {degrees.x, degrees.y, degrees.z};
-    Matrix result = kIdentityMatrix;
-    for (const std::size_t axis : kOrders[rotateOrder]) {
-        const double sine = std::sin(angles[axis] / kDegreesPerRadian);
-        const double cosine = std::cos(angles[axis] / kDegreesPerRadian);
-        const std::size_t next = (axis + 1) % 3;
-        const std::size_t last = (axis + 2) % 3;
-        Matrix turn = kIdentityMatrix;
-        turn[next * 4 + next] = turn[last * 4 + last] = cosine;
-        turn[next * 4 + last] = sine;
-        turn[last * 4 + next] = -sine;
-        result = multiply(result, turn);
-    }
-    return result;
-}
-
-Vec3 vectorOf(const Node &transform, std::string_view attribute)
-{
-    const Plug plug = transform.plug(attribute);
-    double numbers[3];
-    for (std::size_t i = 0; i < 3; ++i)
-        numbers[i] = evaluateNumber(plug.child(plug.attribute->children[i]));
-    return {numbers[0], numbers[1], numbers[2]};
 }
 
 void setVector(Scene &scene, const NodePtr &transform, std::string_view attribute,

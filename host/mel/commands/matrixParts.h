@@ -4,6 +4,7 @@
 // Row vectors, as in transform.h: linear part = scale * shear * rotation.
 #pragma once
 
+#include "scene/rotation.h"
 #include "scene/scene.h"
 #include "scene/transform.h"
 
@@ -19,13 +20,6 @@ struct MatrixParts {
 // REQUIRES: an affine matrix. One without an inverse gives a scale with zeros and no rotation.
 MatrixParts partsOf(const Matrix &matrix);
 
-// The angles, degrees, whose rotation in the order of the rotateOrder enum gives `rotation`.
-skin::Vec3 anglesOf(const Matrix &rotation, int rotateOrder);
-// The rotation of these angles.
-Matrix rotationOf(const skin::Vec3 &degrees, int rotateOrder);
-
-// The three numbers of a transform's attribute ("translate").
-skin::Vec3 vectorOf(const Node &transform, std::string_view attribute);
 void setVector(Scene &scene, const NodePtr &transform, std::string_view attribute,
                const skin::Vec3 &value);
 

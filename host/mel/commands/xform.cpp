@@ -13,12 +13,6 @@ namespace
 
 using skin::Vec3;
 
-int rotateOrderOf(const Node &transform)
-{
-    const int order = int(evaluateNumber(transform.plug("rotateOrder")));
-    return order >= 0 && order < 6 ? order : 0;
-}
-
 std::vector<double> toVector(const Vec3 &v)
 {
     return {v.x, v.y, v.z};
