@@ -12,6 +12,30 @@
 namespace host
 {
 
+// The numbers of neighbouring elements. Grows cheaply at both ends: files count upwards, tools
+// sometimes downwards.
+class NumberRun
+{
+public:
+    std::size_t size() const { return numbers_.size() - front_; }
+    bool empty() const { return size() == 0; }
+    double operator[](std::size_t place) const { return numbers_[front_ + place]; }
+    double *data() { return numbers_.data() + front_; }
+    const double *data() const { return numbers_.data() + front_; }
+    void resize(std::size_t size) { numbers_.resize(front_ + size); }
+    void append(const double *first, const double *last)
+    {
+        numbers_.insert(numbers_.end(), first, last);
+    }
+    // Makes room for `count` numbers before the first; they are to be set.
+    void growFront(std::size_t count);
+    bool operator==(const NumberRun &other) const;
+
+private:
+    std::vector<double> numbers_;
+    std::size_t front_ = 0; // numbers that are only room
+};
+
 class PackedNumbers
 {
 public:
@@ -29,16 +53,18 @@ public:
     bool erase(int index);
     int highestIndex() const; // -1 if empty
     std::vector<int> indices() const;
-    // Runs by their first index; each vector holds run length * tupleSize() numbers.
-    const std::map<int, std::vector<double>> &runs() const { return runs_; }
+    // Runs by their first index; each holds run length * tupleSize() numbers.
+    const std::map<int, NumberRun> &runs() const { return runs_; }
 
     bool operator==(const PackedNumbers &other) const { return runs_ == other.runs_; }
 
 private:
-    std::map<int, std::vector<double>>::iterator runOf(int index);
+    using Runs = std::map<int, NumberRun>;
+    Runs::iterator runOf(int index);
+    Runs::iterator runFor(int first, std::size_t elements);
     unsigned tupleSize_;
     std::size_t elementCount_ = 0;
-    std::map<int, std::vector<double>> runs_;
+    Runs runs_;
 };
 
 } // namespace host
