@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Connections between plugs, and the values that flow through them.
 #include <algorithm>
+#include <set>
 
 #include "scene/plugAccess.h"
 #include "scene/scene.h"
@@ -108,24 +109,40 @@ Value derivedValue(const Plug &plug)
     return Value();
 }
 
-// Chains of connections may be circular; Maya warns about that, and a value is still wanted.
-constexpr int kMaxConnectionChain = 200;
+// The plugs that a value comes along, from `plug` up to where it has no source. It may be a circle,
+// which Maya only warns about: it is gone round once.
+std::vector<Plug> wayUpstream(const Plug &plug)
+{
+    std::vector<Plug> way;
+    std::set<std::pair<const Node *, PlugKey>> seen;
+    for (Plug step = plug; !step.isNull(); step = sourceFor(step)) {
+        if (!way.empty() && !seen.emplace(step.node.get(), PlugKey(step)).second)
+            break;
+        way.push_back(step);
+    }
+    return way;
+}
 
 // Derived values are matrices, and no number. They are not even computed where a number is wanted:
 // they may depend on the very plug that they feed.
-Value evaluate(const Plug &plug, bool wantsNumber, int chain)
+Value valueOf(const Plug &plug, bool wantsNumber)
 {
-    if (chain < kMaxConnectionChain) {
-        const Plug source = sourceFor(plug);
-        if (!source.isNull()) {
-            const Value value = evaluate(source, wantsNumber, chain + 1);
-            if (!std::holds_alternative<std::monostate>(value))
-                return value;
-        }
-    }
     if (plug.attribute->isComputed)
         return wantsNumber ? Value() : derivedValue(plug);
     return plug.node->storedValue(plug);
+}
+
+// That of the furthest plug upstream that has one.
+Value evaluate(const Plug &plug, bool wantsNumber)
+{
+    if (sourceFor(plug).isNull())
+        return valueOf(plug, wantsNumber);
+    const std::vector<Plug> way = wayUpstream(plug);
+    Value value;
+    for (auto step = way.rbegin();
+         step != way.rend() && std::holds_alternative<std::monostate>(value); ++step)
+        value = valueOf(*step, wantsNumber);
+    return value;
 }
 
 } // namespace
@@ -219,7 +236,7 @@ bool isSettable(const Plug &plug)
 
 Value evaluate(const Plug &plug)
 {
-    return evaluate(plug, plug.attribute->isNumber(), 0);
+    return evaluate(plug, plug.attribute->isNumber());
 }
 
 double evaluateNumber(const Plug &plug)

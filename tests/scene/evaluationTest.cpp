@@ -150,6 +150,20 @@ TEST(connections, passValuesThroughCompoundsAndTheirChildren)
     EXPECT_EQ(evaluateNumber(plugNamed(scene, "left.ty")), 0);
 }
 
+TEST(evaluation, comesAlongAsManyConnectionsAsThereAre)
+{
+    Scene scene;
+    const unsigned length = 3000;
+    NodePtr last = scene.createNode("transform", "first");
+    scene.setValue(last->plug("tx"), 5.0);
+    for (unsigned i = 0; i < length; ++i) {
+        const NodePtr next = scene.createNode("transform", "");
+        scene.connect(last->plug("tx"), next->plug("tx"));
+        last = next;
+    }
+    EXPECT_EQ(evaluateNumber(last->plug("tx")), 5.0);
+}
+
 // A file may hold circles: of values, and of a matrix that depends on what it feeds.
 TEST(connections, endCirclesWithAValue)
 {
