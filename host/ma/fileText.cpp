@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <utility>
 
@@ -18,6 +19,7 @@ namespace
 
 constexpr std::size_t kHeaderBytes = 4096;
 constexpr std::size_t kInputBytes = 1u << 20;
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kFirstWords = "//Maya ASCII ";
 constexpr std::string_view kCodesetWords = "//Codeset:";
 
@@ -68,12 +70,28 @@ FileText::FileText(std::string path) : path_(std::move(path))
     if (size_ == 0)
         throwFileError(path_, 1, "The file is empty");
     header_ = readBytes(kHeaderBytes);
+    if (startsWith(header_, kByteOrderMark))
+        header_.erase(0, kByteOrderMark.size());
+    const std::size_t lineEnd = header_.find_first_of("\r\n");
+    linesEndInCr_ =
+        lineEnd + 1 < header_.size() && header_[lineEnd] == '\r' && header_[lineEnd + 1] != '\n';
+    endLines(header_);
     readHeader();
+}
+
+// Old systems end a line with CR alone. None of the codesets has a character with a CR in it.
+void FileText::endLines(std::string &bytes) const
+{
+    if (linesEndInCr_)
+        std::replace(bytes.begin(), bytes.end(), '\r', '\n');
 }
 
 void FileText::open()
 {
-    file_.reset(std::fopen(path_.c_str(), "rb"));
+    // With O_NONBLOCK a pipe to which nobody writes is not waited for.
+    const int descriptor = ::open(path_.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor >= 0)
+        file_.reset(fdopen(descriptor, "rb"));
     if (!file_)
         throw Error(path_ + ": " + (errno == ENOENT ? "File not found" : std::strerror(errno)));
     struct stat facts = {};
@@ -108,6 +126,7 @@ std::string FileText::readBytes(std::size_t bytes)
     block.resize(std::fread(block.data(), 1, bytes, file_.get()));
     if (std::ferror(file_.get()))
         throw Error(path_ + ": " + std::strerror(errno));
+    endLines(block);
     return block;
 }
 

@@ -47,6 +47,7 @@ private:
     void open();
     void openStandardInput();
     std::string readBytes(std::size_t bytes);
+    void endLines(std::string &bytes) const;
     void readHeader();
     void refuseNulBytes(std::string_view bytes);
 
@@ -57,6 +58,7 @@ private:
     std::size_t bytesRead_ = 0;
     std::size_t line_ = 1; // of the next byte to be decoded
     std::string header_;   // bytes that were looked at and not fetched yet
+    bool linesEndInCr_ = false;
     std::string version_;
     std::string codeset_;
     std::optional<TextDecoder> decoder_;
