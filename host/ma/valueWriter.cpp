@@ -20,13 +20,18 @@ std::string rangeText(int first, int last)
                         : std::to_string(first);
 }
 
-// Face vertices in a value of type polyFaces: the sum of the numbers behind each "f".
+// Face vertices in a value of type polyFaces: the sum of the numbers behind each "f", as far as
+// there is room for what they announce.
 std::size_t faceVertexCount(const OpaqueValue &faces)
 {
     std::size_t count = 0;
     const std::string &text = faces.text;
-    for (std::size_t at = text.find("f "); at != std::string::npos; at = text.find("f ", at + 2))
-        count += std::strtoul(text.c_str() + at + 2, nullptr, 10);
+    for (std::size_t at = text.find("f "); at != std::string::npos;) {
+        const std::size_t next = text.find("f ", at + 2);
+        const std::size_t room = (std::min(next, text.size()) - at) / 2;
+        count += std::min<std::size_t>(std::strtoul(text.c_str() + at + 2, nullptr, 10), room);
+        at = next;
+    }
     return count;
 }
 
@@ -94,6 +99,24 @@ struct ValueWords {
     }
 };
 
+// Maya saves no elements that hold the default. Only where somebody added the attribute: arrays of
+// Maya's own nodes are found with the default written out (".dpf[0:2]" 4 4 4).
+bool leavesOutDefaults(const Plug &plug)
+{
+    return AttributeChain(*plug.attribute)[0]->isDynamic &&
+           std::any_of(plug.indices.begin(), plug.indices.end(),
+                       [](int index) { return index != kNoIndex; });
+}
+
+bool isDefault(const Attribute &attribute, const double *numbers)
+{
+    if (attribute.children.empty())
+        return *numbers == attribute.defaultNumber;
+    return std::all_of(
+        attribute.children.begin(), attribute.children.end(),
+        [&numbers](const AttributePtr &child) { return *numbers++ == child->defaultNumber; });
+}
+
 bool isFullTuple(const Attribute &attribute, const Datum &datum)
 {
     return attribute.isTuple() && datum.children.size() == attribute.children.size() &&
@@ -152,7 +175,7 @@ void ValueWriter::writeStored(const AttributePtr &attribute)
 
 void ValueWriter::writeArray(const Plug &array, const Datum &datum)
 {
-    pendingSize_ = node_->elementCount(array);
+    pendingSize_ = keptElements(array, datum);
     if (pendingSize_ <= 1)
         pendingSize_ = 0; // Maya says nothing about arrays of one
     if (datum.packed)
@@ -163,15 +186,61 @@ void ValueWriter::writeArray(const Plug &array, const Datum &datum)
         writeSize(array, pendingSize_);
 }
 
+// How many elements a reader of the file gets.
+std::size_t ValueWriter::keptElements(const Plug &array, const Datum &datum) const
+{
+    const std::size_t all = node_->elementCount(array);
+    const bool mayBeUnset =
+        array.attribute->kind == AttributeKind::string && array.attribute->isArray;
+    if (!mayBeUnset && !leavesOutDefaults(array.element(0)))
+        return all;
+    std::size_t left = 0;
+    for (const auto &[index, element] : datum.elements)
+        left += !comesBack(array.element(index), element);
+    if (!datum.packed)
+        return all - left;
+    const std::size_t tuple = datum.packed->tupleSize();
+    for (const auto &[first, run] : datum.packed->runs()) {
+        for (std::size_t i = 0; i < run.size() / tuple; ++i) {
+            const Plug element = array.element(first + int(i));
+            left += isLeftOut(element, run.data() + i * tuple) && !isConnected(element);
+        }
+    }
+    return all - left;
+}
+
+// Whether a value, a state or a connection brings this element, or child of one, back.
+bool ValueWriter::comesBack(const Plug &plug, const Datum &datum) const
+{
+    const double *number = std::get_if<double>(&datum.value);
+    const bool hasValue =
+        number ? !isLeftOut(plug, number) : !std::holds_alternative<std::monostate>(datum.value);
+    if (hasValue || isConnected(plug) || !node_->state(plug).isDefault())
+        return true;
+    for (const auto &[index, element] : datum.elements) {
+        if (comesBack(plug.element(index), element))
+            return true;
+    }
+    const std::vector<AttributePtr> &children = plug.attribute->children;
+    for (std::size_t i = 0; i < datum.children.size(); ++i) {
+        const Plug child = plug.child(children[i]);
+        const Datum &below = datum.children[i];
+        if (below.packed ? keptElements(child, below) > 0 : comesBack(child, below))
+            return true;
+    }
+    return false;
+}
+
 void ValueWriter::writeNumbers(const Plug &array, const PackedNumbers &numbers)
 {
     const std::size_t tuple = numbers.tupleSize();
-    const bool mayBeImplied = hasConnections(*array.attribute);
+    const bool mayBeLeftOut =
+        hasConnections(*array.attribute) || leavesOutDefaults(array.element(0));
     for (const auto &[first, run] : numbers.runs()) {
         const std::size_t count = run.size() / tuple;
         std::size_t begin = 0;
-        for (std::size_t i = 0; mayBeImplied && i < count; ++i) {
-            if (!isImplied(array.element(first + int(i)), run.data() + i * tuple))
+        for (std::size_t i = 0; mayBeLeftOut && i < count; ++i) {
+            if (!isLeftOut(array.element(first + int(i)), run.data() + i * tuple))
                 continue;
             writeRun(array, first + int(begin), run.data() + begin * tuple, i - begin);
             begin = i + 1;
@@ -238,21 +307,24 @@ void ValueWriter::writeItem(const Plug &plug, const Datum &datum)
 
 void ValueWriter::writeTuple(const Plug &plug, const Datum &datum)
 {
+    const std::vector<AttributePtr> &children = plug.attribute->children;
+    std::vector<double> numbers;
+    for (const Datum &child : datum.children)
+        numbers.push_back(std::get<double>(child.value));
+    if (isLeftOut(plug, numbers.data()))
+        return;
     begin(plug).flagQuoted("-type", plug.attribute->typeName);
     for (std::size_t i = 0; i < datum.children.size(); ++i)
-        writeNumber(out_, *plug.attribute->children[i], std::get<double>(datum.children[i].value));
+        writeNumber(out_, *children[i], numbers[i]);
     out_.end();
 }
 
 void ValueWriter::writeLeaf(const Plug &plug, const Datum &datum)
 {
     const Attribute &attribute = *plug.attribute;
-    if (std::holds_alternative<std::monostate>(datum.value)) {
-        // An element without a text would be lost.
-        if (attribute.kind == AttributeKind::string && attribute.isArray && !isConnected(plug))
-            begin(plug).flagQuoted("-type", "string").quoted("").end();
+    const double *number = std::get_if<double>(&datum.value);
+    if (std::holds_alternative<std::monostate>(datum.value) || (number && isLeftOut(plug, number)))
         return;
-    }
     if (datum.rangeLast > plug.ownIndex())
         begin(plug.array(), rangeText(plug.ownIndex(), datum.rangeLast));
     else
@@ -325,18 +397,19 @@ bool ValueWriter::isConnected(const Plug &plug) const
     return node_->sources().count(key) > 0 || node_->allDestinations().count(key) > 0;
 }
 
-// Whether an element of a packed array comes back by itself when its connections are made.
-bool ValueWriter::isImplied(const Plug &element, const double *numbers) const
+// Whether numbers need not be written: an element with a connection comes back by itself, and
+// others come back as the default that nobody stored.
+bool ValueWriter::isLeftOut(const Plug &plug, const double *numbers) const
 {
-    const Attribute &attribute = *element.attribute;
-    const std::vector<AttributePtr> &children = attribute.children;
-    bool isFound = isConnected(element);
-    for (std::size_t i = 0; i < children.size(); ++i) {
-        isFound = isFound || isConnected(element.child(children[i]));
-        if (numbers[i] != children[i]->defaultNumber)
-            return false;
-    }
-    return isFound && (!children.empty() || numbers[0] == attribute.defaultNumber);
+    if (!isDefault(*plug.attribute, numbers))
+        return false;
+    const std::vector<AttributePtr> &children = plug.attribute->children;
+    const auto childIsConnected = [&](const AttributePtr &child) {
+        return isConnected(plug.child(child));
+    };
+    return leavesOutDefaults(plug) ||
+           (plug.isElement() &&
+            (isConnected(plug) || std::any_of(children.begin(), children.end(), childIsConnected)));
 }
 
 } // namespace host::ma

@@ -2,7 +2,8 @@
 // Writes the setAttr statements of one node.
 //
 // What is stored is written, equal to a default or not: defaults differ between Maya's releases.
-// Long arrays are cut after some 500 numbers, as Maya does it.
+// Not written are elements of dynamic arrays at the default, and texts that nobody set. Long arrays
+// are cut after some 500 numbers, as Maya does it.
 #pragma once
 
 #include <map>
@@ -38,11 +39,11 @@ public:
     // Declared attributes, then learned ones in the order in which the file had them, then dynamic
     // ones; after the values of each the states of its plugs that have no value.
     void writeAll();
+    void writeAttribute(const AttributePtr &attribute);
 
 private:
     using States = std::map<PlugKey, PlugState>;
 
-    void writeAttribute(const AttributePtr &attribute);
     void writeStored(const AttributePtr &attribute);
     PlugState takeState(const Plug &plug);
     void writeArray(const Plug &array, const Datum &datum);
@@ -59,7 +60,9 @@ private:
     StatementWriter &begin(const Plug &plug, const std::string &range = {});
     bool hasConnections(const Attribute &attribute) const; // at some plug of it or below
     bool isConnected(const Plug &plug) const;
-    bool isImplied(const Plug &element, const double *numbers) const;
+    bool isLeftOut(const Plug &plug, const double *numbers) const;
+    std::size_t keptElements(const Plug &array, const Datum &datum) const;
+    bool comesBack(const Plug &plug, const Datum &datum) const;
 
     StatementWriter &out_;
     const FileStyle &style_;

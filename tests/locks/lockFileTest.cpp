@@ -109,10 +109,12 @@ TEST_F(lockFiles, haveNoLockWhereACellWasUnlocked)
     on("2:0", "newLockSelected");
     EXPECT_EQ(stored(), "cells 1[0] 1[1] 1[2]|ankle 1[3]|hip");
     saveAndOpen();
+    EXPECT_EQ(stored(), "cells 1[2]|ankle 1[3]|hip") << "emptied elements are not saved";
     load("body");
     EXPECT_EQ(locked(), "... ... #.# ... ...");
     on("2:1", "newLockSelected");
     EXPECT_EQ(locked(), "... ... ### ... ...");
+    EXPECT_EQ(stored(), "cells 1[2]|ankle 1[3]|hip 1[4]|knee");
     saveAndOpen();
     load("body");
     EXPECT_EQ(locked(), "... ... ### ... ...");

@@ -41,7 +41,8 @@ const Block kBlocks[] = {
      "\tsetAttr \".opt[0].on\" yes;\n"
      "\tsetAttr \".opt[7].name\" -type \"string\" \"\";\n"
      "\tsetAttr \".tags\" -type \"stringArray\" 2 \"x\" \"\";\n"
-     "\tsetAttr -s 3 \".flags[0:2]\" yes no yes;\n"},
+     "\tsetAttr -s 2 \".flags[0]\" yes;\n"
+     "\tsetAttr \".flags[2]\" yes;\n"},
     {"unknown types and attributes",
      "createNode fancySolver -n \"a\";\n"
      "\tsetAttr -s 2 \".in[3:4]\" 1 2 3 4;\n"
@@ -201,7 +202,8 @@ TEST_F(StatementForm, readsWhatOldAndForeignSystemsWrite)
         header + "createNode transform -n \"" + name + "\";\r\n" +
             "\tsetAttr \".t\" -type \"double3\"\r\n\t\t1.5e-007 -nan -1.#IND\r\n\t\t;\r\n" +
             "\taddAttr -dt \"string\" -ln \"note\";\r\n" +
-            "\tsetAttr \".note\" -type \"string\" (\"" + name + "\"\r\n\t\t+ \";//\");\r\n")))
+            "\tsetAttr \".note\" -type \"string\" (\"" + name +
+            "\"\r\n\t\t+ \";//\");\r\n// End of old\r\n")))
         << takeErrors();
     EXPECT_EQ(takeWarnings(), "");
     const std::string utf8 = "\xE8\xA1\xA8\xE8\x83\xBD"; // the same two characters
