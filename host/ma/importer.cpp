@@ -9,7 +9,7 @@
 #include "ma/maFile.h"
 #include "ma/sceneWriter.h"
 #include "ma/sessionMark.h"
-#include "scene/error.h"
+#include "ma/statementRunner.h"
 #include "scene/uuid.h"
 
 namespace host::ma
@@ -83,35 +83,13 @@ void giveFreeNames(Scene &imported, const Scene &target, const std::string &name
         forceName(imported, node, names.of(name, prefix));
 }
 
-// Plug-ins' default nodes may be missing in the target; then their connections are.
-void runStatement(mel::Context &context, const mel::Statement &statement)
-{
-    try {
-        context.interpreter.call(context, statement);
-    } catch (const Error &error) {
-        if (statement.command != "connectAttr")
-            throw;
-        context.session.output().warning(error.what());
-    }
-}
-
 void runText(mel::Interpreter &interpreter, std::string_view text, Scene &target)
 {
     const SessionMark mark(interpreter.session().isReadingFile);
-    NodePtr currentNode;
-    mel::Context context{interpreter.session(), interpreter, &currentNode, true,
-                         text.size(),           &target};
-    mel::Script script;
-    while (!text.empty()) {
-        std::size_t lines = 0;
-        const std::size_t end = std::min(mel::statementEnd(text, lines), text.size());
-        script.clear();
-        if (const mel::SyntaxError error = mel::parseScript(text.substr(0, end), script))
-            throw Error(error.message);
-        for (const mel::Statement &statement : script.statements)
-            runStatement(context, statement);
-        text.remove_prefix(end);
-    }
+    StatementRunner runner(
+        {interpreter.session(), interpreter, nullptr, true, text.size(), &target}, nullptr);
+    runner.runAll(text);
+    runner.finish();
 }
 
 } // namespace

@@ -122,10 +122,19 @@ void NodeWriter::writeBlock(const NodePtr &node)
         if (attribute->isDynamic)
             writeAddAttr(*attribute);
     }
+    writeKept(*node, Kept::aboutAttributes);
     ValueWriter(out_, style_, node).writeAll();
     writeLocks(*node);
-    for (const std::string &statement : node->keptStatements())
-        out_.line(statement + ';');
+    writeKept(*node, Kept::aboutNode);
+}
+
+// Those about attributes come before the values, which have been set since and must win.
+void NodeWriter::writeKept(const Node &node, Kept which)
+{
+    for (const KeptStatement &statement : node.keptStatements()) {
+        if (statement.attribute.empty() == (which == Kept::aboutNode))
+            out_.line(statement.text);
+    }
 }
 
 void NodeWriter::writeAddAttr(const Attribute &attribute)

@@ -18,6 +18,8 @@ public:
     void writeDefaultNode(const NodePtr &node);
 
 private:
+    enum class Kept { aboutAttributes, aboutNode };
+    void writeKept(const Node &node, Kept which);
     void writeBlock(const NodePtr &node);
     void writeAddAttr(const Attribute &attribute);
     void writeNumberFlags(const Attribute &attribute);

@@ -3,19 +3,17 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "ma/fileText.h"
-#include "ma/fileWarnings.h"
 #include "ma/statementReader.h"
+#include "ma/statementRunner.h"
 #include "mel/interpreter.h"
 
 namespace host::ma
 {
 
-// Only commands that their table marks as file statements run, and none in back quotes. What may
-// fail without harm to the rest (a connection to a node that is not there) becomes a warning,
-// everything else ends the reading with an Error that names file and line.
+// What goes wrong with a statement is a warning or ends the reading with an Error that names file
+// and line: see StatementRunner.
 class Reader
 {
 public:
@@ -27,15 +25,6 @@ public:
 
 private:
     void runStatement(const StatementText &text);
-    void call(const mel::Statement &statement);
-    void callCommand(const mel::Statement &statement);
-    void selectNode(const mel::Statement &statement);
-    void requireObjects(const mel::Statement &statement) const;
-    void requireCurrentNode(const mel::Statement &statement) const;
-    void checkArguments(const mel::Statement &statement) const;
-    void checkGivenName(const mel::Statement &statement) const;
-    void noteReference(const mel::Statement &statement);
-    void noteLongNames(const mel::Statement &statement);
     void reportProgress();
 
     mel::Interpreter &interpreter_;
@@ -43,8 +32,7 @@ private:
     FileText file_;
     StatementReader statements_;
     FileWarnings warnings_;
-    NodePtr currentNode_;
-    mel::Context context_;
+    StatementRunner runner_;
     mel::Script script_; // kept, so that its storage is reused
     std::size_t reported_ = 0;
 };

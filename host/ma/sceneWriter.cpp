@@ -4,11 +4,13 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdlib>
+#include <unordered_set>
 
 #include "ma/maFile.h"
 #include "ma/outputFile.h"
 #include "ma/sessionMark.h"
 #include "ma/standardStream.h"
+#include "scene/error.h"
 
 namespace host::ma
 {
@@ -71,9 +73,11 @@ void SceneWriter::writeFile(const std::string &fileName)
         out_.line(statement);
     writeFacts();
     writeAllNodes();
+    writeKeptConnections();
     for (const std::string &statement : scene_.facts.trailing)
         out_.line(statement);
     writeEnd(fileName);
+    refuseToLose();
 }
 
 void SceneWriter::writePart(const std::string &fileName,
@@ -84,6 +88,7 @@ void SceneWriter::writePart(const std::string &fileName,
     writeHeader(fileName);
     writeFacts();
     writeAllNodes();
+    writeKeptConnections();
     writeEnd(fileName);
 }
 
@@ -104,6 +109,21 @@ void SceneWriter::writeEnd(const std::string &fileName)
     out_.line("// End of " + commentText(fileName));
 }
 
+// A node that no walk from the world reaches must not be left out without a word.
+void SceneWriter::refuseToLose() const
+{
+    const std::vector<std::string> lost = missingNames(scene_, written_, connections_);
+    if (lost.empty())
+        return;
+    constexpr std::size_t kNamed = 20;
+    std::string text = "The scene was not saved, these would be lost:";
+    for (std::size_t i = 0; i < std::min(lost.size(), kNamed); ++i)
+        text += ' ' + lost[i];
+    if (lost.size() > kNamed)
+        text += " and " + std::to_string(lost.size() - kNamed) + " more";
+    throw Error(text);
+}
+
 void SceneWriter::writeNodesFor(const std::vector<NodePtr> &present)
 {
     isForOther_ = true;
@@ -112,6 +132,7 @@ void SceneWriter::writeNodesFor(const std::vector<NodePtr> &present)
     writeLateInstances();
     writeDependencyNodes();
     writeConnections();
+    writeKeptConnections();
 }
 
 // No date: two savings of one scene are equal.
@@ -238,7 +259,56 @@ void SceneWriter::writeConnectionsInto(const NodePtr &node)
         if (takesNext)
             out_.word(flags("-na", "-nextAvailable"));
         out_.end();
+        ++connections_;
     }
+}
+
+// Those that could not be made, unless a node of theirs was deleted or is left out.
+void SceneWriter::writeKeptConnections()
+{
+    const auto textOf = [this](const KeptConnection::End &end) {
+        const NodePtr node = end.node.lock();
+        if (!end.hasNode)
+            return end.text;
+        const bool isThere = node && node->scene() == &scene_;
+        const bool isWritten = isThere && (!part_ || part_->count(node.get()) > 0);
+        return isWritten ? nodeText(*node) + end.text : std::string();
+    };
+    for (const KeptConnection &connection : scene_.facts.keptConnections) {
+        const std::string source = textOf(connection.source);
+        const std::string destination = textOf(connection.destination);
+        if (!source.empty() && !destination.empty())
+            out_.begin("connectAttr")
+                .quoted(source)
+                .quoted(destination)
+                .values(connection.flags)
+                .end();
+    }
+}
+
+std::vector<std::string> missingNames(const Scene &scene, const std::vector<NodePtr> &written,
+                                      std::size_t connections)
+{
+    std::unordered_set<const Node *> there;
+    for (const NodePtr &node : written)
+        there.insert(node.get());
+    const auto isLost = [&there](const Node &node) {
+        return !node.isDefault() && there.count(&node) == 0;
+    };
+    std::vector<std::string> names;
+    std::size_t all = 0;
+    for (const NodePtr &node : scene.nodes()) {
+        if (isLost(*node))
+            names.push_back(node->name());
+        for (const auto &[key, source] : node->sources()) {
+            if (isLost(*node) || isLost(*source.node))
+                names.push_back(source.plug().name() + " -> " + node->plugOf(key).name());
+        }
+        all += node->sources().size();
+    }
+    if (names.empty() && all != connections)
+        names.push_back(std::to_string(all - connections) + " connections");
+    return names;
 }
 
 void writeFile(Session &session, const std::string &path)

@@ -13,12 +13,20 @@
 namespace host::ma
 {
 
+// The nodes that are not among those written, default nodes aside, and the connections that they
+// take with them ("a.x -> b.y"); or how many connections are missing of those that `connections`
+// counts.
+std::vector<std::string> missingNames(const Scene &scene, const std::vector<NodePtr> &written,
+                                      std::size_t connections);
+
 class SceneWriter
 {
 public:
     SceneWriter(StatementWriter &out, Scene &scene);
 
-    // All of it, header and end included. `fileName` is what the header names: no folder.
+    // All of it, header and end included. `fileName` is what the header names: no folder. Throws
+    // Error, with their names, if nodes or connections of the scene were not among what was
+    // written.
     void writeFile(const std::string &fileName);
 
     // A file of some nodes and the connections among them and with default nodes. A DAG node is
@@ -30,6 +38,7 @@ public:
     void writeNodesFor(const std::vector<NodePtr> &present);
 
 private:
+    void refuseToLose() const;
     void writeHeader(const std::string &fileName);
     void writeFacts();
     void writeAllNodes();
@@ -40,6 +49,7 @@ private:
     void writeDependencyNodes();
     void writeConnections();
     void writeConnectionsInto(const NodePtr &node);
+    void writeKeptConnections();
     bool isPresent(const NodePtr &node) const;
     bool isInPart(const Node &node) const;
 
@@ -51,6 +61,7 @@ private:
     std::vector<NodePtr> present_;
     const std::unordered_set<const Node *> *part_ = nullptr;  // null: everything
     std::vector<NodePtr> written_;                            // in the order of their createNode
+    std::size_t connections_ = 0;                             // written so far
     std::unordered_map<const Node *, std::size_t> instances_; // of nodes with several: done so far
 };
 

@@ -87,6 +87,11 @@ bool StatementReader::fetchMore()
     return file_.fetch(std::min(std::max(kBlockBytes, buffer_.size()), most), buffer_);
 }
 
+bool StatementReader::hasEndMark() const
+{
+    return buffer_.find("// End of", position_) != std::string::npos;
+}
+
 void StatementReader::checkEnd() const
 {
     const std::string_view rest = std::string_view(buffer_).substr(position_);

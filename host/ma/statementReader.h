@@ -28,6 +28,9 @@ public:
     // The next statement; it is valid until the next call. False at the end of the file. Throws
     // Error when the file is cut off or a statement is too long.
     bool next(StatementText &statement);
+    // Whether a comment "// End of NAME", with which Maya ends a file, stands behind the last
+    // statement. REQUIRES: next() was false.
+    bool hasEndMark() const;
 
 private:
     bool fetchMore(); // after the statement's beginning; false at the end of the file

@@ -107,6 +107,8 @@ private:
     std::vector<UsedFlag> used_;
 };
 
+class PendingWeights;
+
 // What a command may touch. `currentNode` is the node that relative plugs (".t") and addAttr,
 // rename -uid and lockNode without a name mean while a file is read; null otherwise.
 struct Context {
@@ -116,6 +118,7 @@ struct Context {
     bool isReadingFile = false;
     std::size_t fileSize = 0; // bytes of the file that is read: bounds what it may announce
     Scene *target = nullptr;  // the scene that a file is read into
+    PendingWeights *pendingWeights = nullptr; // of the file that is read; its reader writes them
 
     Scene &scene() { return target ? *target : session.scene(); }
 };

@@ -93,6 +93,14 @@ bool isAtOrAbove(const Node &node, const Node &other)
     return false;
 }
 
+bool hasSeveralPaths(const Node &node)
+{
+    const Node *step = &node;
+    while (step->parents().size() == 1)
+        step = step->parents().front();
+    return step->parents().size() > 1;
+}
+
 bool wouldHaveTooManyPaths(const Node &node, const Node &parent)
 {
     PathCounts before;

@@ -18,6 +18,9 @@ constexpr std::size_t kMaxPathsPerNode = 10'000;
 // True when `other` is `node` or lies below it.
 bool isAtOrAbove(const Node &node, const Node &other);
 
+// Whether the node, or one above it, has several parents.
+bool hasSeveralPaths(const Node &node);
+
 // Whether `node`, or one below it, would have too many paths with `parent` as a further parent.
 bool wouldHaveTooManyPaths(const Node &node, const Node &parent);
 

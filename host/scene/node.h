@@ -29,6 +29,12 @@ struct Connection {
     Plug plug() const;
 };
 
+// A statement of a file about one node that means nothing to the host.
+struct KeptStatement {
+    std::string text;      // as the file had it, with its `;`
+    std::string attribute; // the top-level attribute that it is about; empty: about the node
+};
+
 class Node : public std::enable_shared_from_this<Node>
 {
 public:
@@ -50,8 +56,7 @@ public:
     bool isDefault() const { return isDefault_; }
     // Made shared (createNode -s), as the default cameras are.
     bool isShared() const { return isShared_; }
-    // Kept statements of the node that mean nothing to the host: "instanceable -a 0".
-    const std::vector<std::string> &keptStatements() const { return keptStatements_; }
+    const std::vector<KeptStatement> &keptStatements() const { return keptStatements_; }
 
     // Attributes in order: declared, dynamic and learned ones. Top level only.
     std::vector<AttributePtr> attributes() const;
@@ -115,7 +120,7 @@ private:
     unsigned long serial_ = 0; // place in the scene's order of creation
     unsigned long dataRevision_ = 0;
     unsigned nextAttributeOrder_ = 0;
-    std::vector<std::string> keptStatements_;
+    std::vector<KeptStatement> keptStatements_;
     std::vector<AttributePtr> ownAttributes_;
     std::unordered_map<std::string, AttributePtr> ownByName_;
     std::unordered_map<const Attribute *, Datum> data_; // by top-level attribute

@@ -128,7 +128,13 @@ AttributePtr NodeType::find(std::string_view attributeName) const
 
 NodeTypes::NodeTypes()
 {
-    std::istringstream lines(kNodeTypeTable);
+    for (const char *table : {kNodeTypeTable, kDagTypeTable})
+        read(table);
+}
+
+void NodeTypes::read(const char *table)
+{
+    std::istringstream lines(table);
     std::string line;
     NodeType *type = nullptr;
     std::vector<NewAttributePtr> open; // compounds whose children are being read
@@ -192,10 +198,13 @@ const NodeType *NodeTypes::find(std::string_view name) const
 
 const NodeType &NodeTypes::findOrLearn(std::string_view name, std::string_view base)
 {
-    if (const NodeType *known = find(name))
+    const NodeType *known = find(name);
+    if (known && (known->isKnown || known->isA(base)))
         return *known;
     NodeType &type = add(name, find(base));
     type.isKnown = false;
+    // Attributes that its nodes learn come behind those that it may yet turn out to have.
+    type.orderEnd = find("transform")->orderEnd;
     return type;
 }
 

@@ -39,14 +39,17 @@ private:
 class NodeTypes
 {
 public:
-    NodeTypes(); // reads the built-in table
+    NodeTypes(); // reads the built-in tables
     // The type, or null when the table does not have it and no file brought it.
     const NodeType *find(std::string_view name) const;
-    // The type, taken in as an unknown one derived from `base` when it is new: "dagNode" for a
-    // node that a file puts below a parent, "node" for any other.
+    // The type, taken in as an unknown one derived from `base` when it is new: "transform" for a
+    // node that has children, "dagNode" for one that a file puts below a parent, "node" for any
+    // other. An unknown type that does not derive from `base` yet is learned anew; nodes keep the
+    // type that they have, see Scene::adoptType().
     const NodeType &findOrLearn(std::string_view name, std::string_view base);
 
 private:
+    void read(const char *table);
     NodeType &add(std::string_view name, const NodeType *base);
     std::vector<std::unique_ptr<NodeType>> types_;
     std::unordered_map<std::string, NodeType *> byName_;

@@ -92,6 +92,12 @@ bindPose bps matrix
 
 type shape : dagNode
 type geometryShape : shape
+compInstObjGroups ciog compound[] instance {
+  compObjectGroups cog compound[] {
+    compObjectGrpCompList cgcl componentList
+    compObjectGroupId cgid long
+  }
+}
 type deformableShape : geometryShape
 type controlPoint : deformableShape
 controlPoints cp double3[] names=xValue/xv,yValue/yv,zValue/zv

@@ -5,6 +5,8 @@
 namespace host
 {
 
+// The first holds what skinned meshes need, the second the rest of the DAG.
+//
 // One type starts with "type NAME : BASE"; each line below it declares an attribute:
 //
 //     longName shortName type[] key=value ... {     children up to a line with "}"
@@ -13,5 +15,6 @@ namespace host
 // a tuple), and the words instance (one element per DAG instance), computed (derived, never
 // stored), key (keyable), unindexed (the index does not matter).
 extern const char *const kNodeTypeTable;
+extern const char *const kDagTypeTable;
 
 } // namespace host

@@ -103,7 +103,8 @@ PlugRange resolvePlugPath(const NodePtr &node, std::string_view path, UnknownAtt
                 range.rangeDepth = int(depth) - 1;
                 range.last = step.last;
             }
-        } else if (attribute->isPerInstance && !rest.empty()) {
+        } else if (!rest.empty() &&
+                   (attribute->isPerInstance || (attribute->isLearned() && attribute->isArray))) {
             indices[depth - 1] = 0;
         }
     }

@@ -69,9 +69,11 @@ constexpr DefaultCamera kDefaultCameras[] = {
     {"side", {1000.1, 0, 0}, {0, 90, 0}, true},
 };
 
-void addDefaultCamera(Scene &scene, const DefaultCamera &camera)
+// Serial numbers that are left free for the default cameras, so that they come first.
+constexpr std::size_t kCameraNodes = 2 * std::size(kDefaultCameras);
+
+void placeDefaultCamera(Scene &scene, const DefaultCamera &camera, const NodePtr &transform)
 {
-    const NodePtr transform = scene.createSharedNode("transform", camera.name, nullptr);
     scene.setValue(transform->plug("visibility"), 0.0);
     static constexpr const char *kTranslate[] = {"tx", "ty", "tz"};
     static constexpr const char *kRotate[] = {"rx", "ry", "rz"};
@@ -79,10 +81,8 @@ void addDefaultCamera(Scene &scene, const DefaultCamera &camera)
         scene.setValue(transform->plug(kTranslate[i]), camera.translate[i]);
         scene.setValue(transform->plug(kRotate[i]), camera.rotate[i]);
     }
-    const NodePtr shape =
-        scene.createSharedNode("camera", std::string(camera.name) + "Shape", transform);
     if (camera.isOrthographic)
-        scene.setValue(shape->plug("orthographic"), 1.0);
+        scene.setValue(transform->children().front()->plug("orthographic"), 1.0);
 }
 
 // "ns:a" of "|ns:a", ":a" and "a".
@@ -117,10 +117,12 @@ bool endsWith(const DagPath &path, const std::vector<std::string_view> &parts, b
 
 } // namespace
 
-Scene::Scene()
+Scene::Scene(Cameras cameras)
 {
     world_ = std::make_shared<Node>(*this, types_.findOrLearn("world", "dagNode"), "world");
     addDefaultNodes(); // without UUIDs: every scene has them
+    if (cameras == Cameras::made)
+        addMissingCameras();
     givesUuids_ = true;
     isModified_ = false;
 }
@@ -144,8 +146,28 @@ void Scene::addDefaultNodes()
 {
     for (const DefaultNode &row : kDefaultNodes)
         addNode(types_.findOrLearn(row.type, "node"), row.name, nullptr)->isDefault_ = true;
-    for (const DefaultCamera &camera : kDefaultCameras)
-        addDefaultCamera(*this, camera);
+    nextSerial_ += kCameraNodes;
+}
+
+void Scene::addMissingCameras()
+{
+    const unsigned long next = nextSerial_;
+    std::vector<NodePtr> &topmost = world_->children_;
+    std::size_t added = 0;
+    for (std::size_t i = 0; i < std::size(kDefaultCameras); ++i) {
+        const DefaultCamera &camera = kDefaultCameras[i];
+        const std::string shapeName = std::string(camera.name) + "Shape";
+        if (!nodesNamed(camera.name).empty() || !nodesNamed(shapeName).empty())
+            continue;
+        nextSerial_ = std::size(kDefaultNodes) + 2 * i;
+        const NodePtr transform = addNode(*types_.find("transform"), camera.name, nullptr);
+        addNode(*types_.find("camera"), shapeName, transform)->isShared_ = true;
+        transform->isShared_ = true;
+        placeDefaultCamera(*this, camera, transform);
+        std::rotate(topmost.begin() + long(added), topmost.end() - 1, topmost.end());
+        ++added;
+    }
+    nextSerial_ = next;
 }
 
 std::vector<NodePtr> Scene::nodes() const
@@ -157,24 +179,53 @@ std::vector<NodePtr> Scene::nodes() const
     return all;
 }
 
-std::vector<NodePtr> Scene::nodesNamed(std::string_view name) const
+const std::vector<NodePtr> &Scene::nodesNamed(std::string_view name) const
 {
+    static const std::vector<NodePtr> kNone;
     const auto found = byName_.find(std::string(withoutRootColon(name)));
-    return found == byName_.end() ? std::vector<NodePtr>() : found->second;
+    return found == byName_.end() ? kNone : found->second;
 }
 
-std::vector<DagPath> Scene::pathsMatching(std::string_view name) const
+// The nodes that a path's last part can mean. Where many nodes share that name, the way leads down
+// from the rarest name of the path.
+std::vector<NodePtr> Scene::candidates(const std::vector<std::string_view> &parts) const
+{
+    const auto rarest = std::min_element(parts.rbegin(), parts.rend(),
+                                         [this](auto a, auto b) {
+                                             return nodesNamed(a).size() < nodesNamed(b).size();
+                                         })
+                            .base() -
+                        1;
+    std::vector<NodePtr> level = nodesNamed(*rarest);
+    for (auto part = rarest + 1; part != parts.end(); ++part) {
+        std::map<unsigned long, NodePtr> below; // in order of creation, each once
+        for (const NodePtr &node : level) {
+            for (const NodePtr &child : node->children()) {
+                if (child->name() == *part)
+                    below.emplace(child->serial_, child);
+            }
+        }
+        level.clear();
+        for (const auto &entry : below)
+            level.push_back(entry.second);
+    }
+    return level;
+}
+
+std::vector<DagPath> Scene::pathsMatching(std::string_view name, std::size_t most) const
 {
     std::vector<DagPath> paths;
     const bool isRooted = !name.empty() && name.front() == '|';
     const std::vector<std::string_view> parts = splitPath(isRooted ? name.substr(1) : name);
-    for (const NodePtr &node : nodesNamed(parts.back())) {
+    for (const NodePtr &node : candidates(parts)) {
         if (!node->isDag())
             continue;
         for (const DagPath &path : DagPath::all(node)) {
-            if (endsWith(path, parts, isRooted))
+            if (paths.size() < most && endsWith(path, parts, isRooted))
                 paths.push_back(path);
         }
+        if (paths.size() >= most)
+            break;
     }
     return paths;
 }

@@ -19,6 +19,7 @@
 #include "scene/change.h"
 #include "scene/dagPath.h"
 #include "scene/error.h"
+#include "scene/fileInfo.h"
 #include "scene/node.h"
 #include "scene/nodeType.h"
 #include "scene/numberedNames.h"
@@ -26,23 +27,40 @@
 namespace host
 {
 
+// A connection that a file makes and the scene can't: one of its ends, or a plug of it, is not
+// there. It is kept for the next save and lives as long as those of its nodes that were found.
+struct KeptConnection {
+    struct End {
+        bool hasNode = false;
+        std::weak_ptr<Node> node; // if hasNode
+        std::string text;         // behind the node's name: ".brandNew[0]"; without node all of it
+    };
+    End source;
+    End destination;
+    std::string flags; // " -l on -na"
+};
+
 // What a file says about itself beside its nodes. Statements are kept as text with their `;`.
 struct FileFacts {
     std::string mayaVersion = "2017";         // of the header line and `requires maya`
     std::vector<std::string> requiredPlugins; // "requires ..." statements but maya's
-    std::vector<std::pair<std::string, std::string>> fileInfo; // in order
+    FileInfo fileInfo;
     std::string linearUnit = "centimeter";
     std::string angularUnit = "degree";
     std::string timeUnit = "film";
     std::vector<std::string> references; // "file -rdi ...", "file -r ..."
-    std::vector<std::string> trailing;   // relationship, dataStructure, applyMetadata
-    bool hasLongNames = false;           // the file wrote long flags and attribute names
+    std::vector<std::string> trailing;   // relationship, dataStructure, and what nobody understood
+    std::vector<KeptConnection> keptConnections;
+    bool hasLongNames = false; // the file wrote long flags and attribute names
 };
 
 class Scene
 {
 public:
-    Scene(); // the default nodes and the four default cameras
+    // The default nodes and the four default cameras. A file that is read brings its own cameras,
+    // perhaps under other names or parents.
+    enum class Cameras { made, leftToFile };
+    explicit Scene(Cameras cameras = Cameras::made);
     ~Scene();
     Scene(const Scene &) = delete;
     Scene &operator=(const Scene &) = delete;
@@ -56,9 +74,11 @@ public:
     std::vector<NodePtr> nodes() const;
     const NodePtr &world() const { return world_; } // parent of the topmost DAG nodes
     // Nodes of that name ("hip", "rig:hip", ":hip" for the root namespace). No paths.
-    std::vector<NodePtr> nodesNamed(std::string_view name) const;
+    const std::vector<NodePtr> &nodesNamed(std::string_view name) const;
     // Paths that a name or partial path ("left|hip", "|root|hip", "hip") can mean. DAG nodes only.
-    std::vector<DagPath> pathsMatching(std::string_view name) const;
+    // No more than `most` of them.
+    std::vector<DagPath> pathsMatching(std::string_view name,
+                                       std::size_t most = std::size_t(-1)) const;
     // Whether there are several, without a list of them. `name` starts with no '|'.
     bool isAmbiguous(std::string_view name) const;
     // The one node that a name or path means; throws no such object / ambiguous name.
@@ -77,6 +97,12 @@ public:
                        UnknownType unknown = UnknownType::refuse);
     // createNode -s: the node of that name if there is one, else a new one.
     NodePtr createSharedNode(std::string_view type, std::string_view name, const NodePtr &parent);
+    // The default cameras that a file did not bring, in front of what it did.
+    void addMissingCameras();
+    // Gives a node of an unknown type what types() has learned about that type since: it may enter
+    // the DAG, below the world. Learned attributes that the type declares now are hidden by it and
+    // have to be moved before.
+    void adoptType(const NodePtr &node);
     // A node that exists in every scene ("select -ne :defaultArnoldRenderOptions" in a file).
     NodePtr defaultNode(std::string_view name);
     // With everything below it; its connections are cut. Default and locked nodes are refused.
@@ -87,7 +113,7 @@ public:
     // Whether new nodes get a UUID, as they do unless said otherwise: a file brings its own.
     void setGivesUuids(bool givesUuids) { givesUuids_ = givesUuids; }
     void setNodeLock(const NodePtr &node, bool locked, bool lockUnpublished);
-    void keepStatement(const NodePtr &node, std::string statement);
+    void keepStatement(const NodePtr &node, KeptStatement statement);
 
     // --- DAG ----------------------------------------------------------------------------------
     // Moves `node` from one parent to another (the world for none), last among its children. A
@@ -165,6 +191,7 @@ private:
     void perform(std::function<void()> redo, std::function<void()> undo);
     void addDefaultNodes();
     NodePtr addNode(const NodeType &type, std::string name, const NodePtr &parent);
+    std::vector<NodePtr> candidates(const std::vector<std::string_view> &parts) const;
     // All or nothing, where memory has run out.
     void enter(const NodePtr &node);
     void enterBelow(const NodePtr &node, const NodePtr &parent, std::size_t place);
@@ -173,6 +200,7 @@ private:
     void leaveName(const NodePtr &node, const std::string &name);
     std::string freeName(std::string_view wanted, bool isDag, const Node *parent) const;
     static void cut(const Plug &source, const Plug &destination);
+    void dropKeptStatements(const NodePtr &node, const Attribute &attribute);
 
     NodeTypes types_;
     NodePtr world_;

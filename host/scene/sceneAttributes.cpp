@@ -147,8 +147,23 @@ void Scene::removeAttribute(const NodePtr &node, const AttributePtr &attribute)
     for (const Plug &plug : plugsWithStateBelow(*node, *attribute))
         setState(plug, PlugState());
     SceneEdit::run(*this, Plug(node, attribute), [&] { node->data_.erase(attribute.get()); });
+    dropKeptStatements(node, *attribute);
     perform([node, attribute] { SceneEdit::removeOwn(*node, attribute); },
             [node, attribute, place] { SceneEdit::addOwn(*node, attribute, place); });
+}
+
+// What a file said about an attribute makes no sense without it.
+void Scene::dropKeptStatements(const NodePtr &node, const Attribute &attribute)
+{
+    const std::vector<KeptStatement> before = node->keptStatements_;
+    std::vector<KeptStatement> after;
+    for (const KeptStatement &statement : before) {
+        if (!attribute.hasName(statement.attribute))
+            after.push_back(statement);
+    }
+    if (after.size() != before.size())
+        perform([node, after] { node->keptStatements_ = after; },
+                [node, before] { node->keptStatements_ = before; });
 }
 
 AttributePtr Scene::learnAttribute(const NodePtr &node, const AttributePtr &above,

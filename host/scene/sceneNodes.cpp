@@ -48,6 +48,14 @@ void refuseToDelete(const Node &node)
     }
 }
 
+void refuseAsParent(const Node &node)
+{
+    if (!node.isDag())
+        throw Error("Only a node of the DAG can be a parent: " + node.uniqueName());
+    if (node.isA("shape"))
+        throw Error("A shape can not be a parent: " + node.uniqueName());
+}
+
 template <typename List, typename Item>
 void insertAt(List &list, std::size_t place, Item &&item)
 {
@@ -193,12 +201,14 @@ NodePtr Scene::createNode(std::string_view type, std::string_view name, const No
         if (unknown == UnknownType::refuse)
             throw Error("Unrecognized node type '" + std::string(type) + "'.");
         known = &types_.findOrLearn(type, parent ? "dagNode" : "node");
+    } else if (parent && !known->isKnown) {
+        known = &types_.findOrLearn(type, "dagNode");
     }
     const bool isDag = known->isA("dagNode");
     if (parent && !isDag)
         throw Error("A " + std::string(type) + " node can not have a parent.");
-    if (parent && parent->isA("shape"))
-        throw Error("A shape can not be a parent: " + parent->uniqueName());
+    if (parent)
+        refuseAsParent(*parent);
     if (depthOf(parent.get()) > kMaxDagDepth)
         throw Error("The hierarchy is too deep at " + parent->name());
 
@@ -324,7 +334,34 @@ void Scene::setNodeLock(const NodePtr &node, bool locked, bool lockUnpublished)
             [set, a = node->isLocked_, b = node->isLockUnpublished_] { set(a, b); });
 }
 
-void Scene::keepStatement(const NodePtr &node, std::string statement)
+void Scene::adoptType(const NodePtr &node)
+{
+    const NodeType *before = node->type_;
+    const NodeType *after = types_.find(before->name);
+    const bool entersDag = after->isA("dagNode") && !node->isDag();
+    if (after == before)
+        return;
+    perform(
+        [this, node, after, entersDag] {
+            ++structureRevision_;
+            node->type_ = after;
+            if (entersDag) {
+                node->parents_.push_back(world_.get());
+                world_->children_.push_back(node);
+            }
+        },
+        [this, node, before, entersDag] {
+            ++structureRevision_;
+            node->type_ = before;
+            if (entersDag) {
+                node->parents_.clear();
+                world_->children_.erase(world_->children_.begin() +
+                                        long(placeOf(world_->children_, node)));
+            }
+        });
+}
+
+void Scene::keepStatement(const NodePtr &node, KeptStatement statement)
 {
     perform([node, statement] { node->keptStatements_.push_back(statement); },
             [node] { node->keptStatements_.pop_back(); });
@@ -345,8 +382,7 @@ void Scene::addInstance(const NodePtr &node, const NodePtr &parent)
     const NodePtr to = parent ? parent : world_;
     if (isAtOrAbove(*node, *to))
         throw Error("Can not parent '" + node->uniqueName() + "' below itself.");
-    if (to->isA("shape"))
-        throw Error("A shape can not be a parent: " + to->uniqueName());
+    refuseAsParent(*to);
     if (placeOf(node->parents_, to.get()) < node->parents_.size())
         throw Error("'" + node->uniqueName() + "' is already a child of '" + to->name() + "'.");
     if (wouldHaveTooManyPaths(*node, *to))

@@ -65,7 +65,8 @@ bool memberAt(const Plug &source, SelectionItem &item)
     item.node = source.node;
     if (source.node->isDag())
         item.path = DagPath::first(source.node);
-    if (source.attribute->longName == "objectGroups") {
+    // An added attribute may have the name without what belongs to it.
+    if (source.attribute->longName == "objectGroups" && source.attribute->children.size() >= 2) {
         item.component.emplace();
         return source.node->isA("mesh") &&
                readComponents(textsAt(componentListOf(source)), *source.node, *item.component);

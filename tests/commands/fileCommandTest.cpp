@@ -75,7 +75,7 @@ TEST_F(fileCommand, exportsTheSelectionWithWhatItNeeds)
 
     mel("file -f -new; select persp; file -es \"" + path("empty.ma") + "\"");
     mel("file -f -open \"" + path("empty.ma") + "\""); // only what every scene has
-    EXPECT_EQ(melStrings("ls -type transform"), "persp top front side");
+    EXPECT_EQ(melStrings("ls -type transform"), "top front side persp");
 }
 
 TEST_F(fileCommand, refusesWithoutTouchingTheScene)

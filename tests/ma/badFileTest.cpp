@@ -67,11 +67,6 @@ TEST_F(BadFile, isRefusedAtTheLineWhereItGoesWrong)
         {"cutInValues.ma", skin + "\n\tsetAttr \".wl[0].w\"\n\t\t1 0",
          "line 6: The file is cut off"},
         {"negativeIndex.ma", skin + "\tsetAttr \".wl[0].w\" 1 -3 1;\n", "line 5: "},
-        {"shortRange.ma", "createNode mesh -n \"m\";\n\tsetAttr \".vt[0:2]\" 0 0 0 1 1 1;\n",
-         "line 5: "},
-        {"noNumber.ma", skin + "\tsetAttr \".nw\" abc;\n", "line 5: "},
-        {"twoNumbers.ma", skin + "\tsetAttr \".nw\" 1 2;\n", "line 5: "},
-        {"shortStrings.ma", skin + "\tsetAttr \".x\" -type \"stringArray\" 7 \"x\";\n", "line 5: "},
         {"missingValues.ma", skin + "\tsetAttr \".wl[0].w\" 2 0 1;\n", "line 5: "},
         {"sameNode.ma", skin + skin, "line 5: The name \"skin\" is taken"},
         {"samePath.ma",
@@ -83,17 +78,12 @@ TEST_F(BadFile, isRefusedAtTheLineWhereItGoesWrong)
          "createNode transform -n \"a\";\ncreateNode transform -n \"b\" -p \"a\";\n"
          "parent -s -nc -r -add \"|a\" \"b\";\n",
          "line 6: "},
-        {"billionSize.ma", skin + "\tsetAttr -s 1000000000 \".wl\";\n", "line 5: "},
-        {"billionRange.ma", skin + "\tsetAttr \".bw[0:1000000000]\" 1;\n", "line 5: "},
+        {"longWeights.ma", skin + "\tsetAttr \".weightList[0].weights[0]\" x;\n", "line 5: "},
+        {"notAboutANode.ma", "createNode transform -n \"a\" -p \"initialShadingGroup\";\n",
+         "line 4: Only a node of the DAG can be a parent"},
         {"billionIndex.ma", skin + "\tsetAttr \".wl[1000000000].w[0]\" 1;\n", "line 5: "},
-        {"millionsOfVertices.ma", "createNode mesh -n \"m\";\n\tsetAttr \".vt[90000000]\" 0 0 0;\n",
-         "line 5: "},
-        {"billionCount.ma", skin + "\tsetAttr \".ptw\" -type \"doubleArray\" 1000000000 1;\n",
-         "line 5: "},
         {"deepParentheses.ma", skin + "\tsetAttr \".en\" " + times(100000, "(") + ";\n",
          "line 5: "},
-        {"deepAttribute.ma", skin + "\tsetAttr \".x" + times(1000, "[0].x") + "\" 1;\n",
-         "line 5: Attributes nest too deeply"},
         {"longLine.ma", skin + "\tsetAttr \".an\" \"" + std::string(70u << 20, 'a') + "\";\n",
          "line 4: The statement is longer than 64 MB"},
         {"manyValues.ma", skin + "\tsetAttr \".x\" " + times(4000000, "1 ") + ";\n",
@@ -154,9 +144,9 @@ TEST_F(BadFile, opensWithoutWhatIsMissing)
     ASSERT_TRUE(open(write("missing.ma", statements)));
     const std::string warnings = takeWarnings();
     EXPECT_NE(warnings.find("line 4: The referenced file \"rigs/arm.ma\""), std::string::npos);
-    EXPECT_NE(warnings.find("line 25: No object matches name: lost19"), std::string::npos);
-    EXPECT_EQ(warnings.find("lost20"), std::string::npos) << warnings;
-    EXPECT_NE(warnings.find("5 more warnings about connectAttr"), std::string::npos) << warnings;
+    EXPECT_NE(warnings.find("line 6: No object matches name: lost0 (and 24 more such"),
+              std::string::npos)
+        << warnings;
     EXPECT_EQ(melStrings("ls -type joint"), "hip knee");
     EXPECT_NE(savedText().find("file -r -ns \"rig\" -dr 1 -rfn \"rigRN\" \"rigs/arm.ma\";\n"),
               std::string::npos);

@@ -23,7 +23,10 @@ const std::vector<SceneChange> kChanges = {
     {"rename to a name that is taken", [](Scene &s) { s.rename(s.node("body"), "hip"); }},
     {"set an identifier", [](Scene &s) { s.setUuid(s.node("hip"), "4A1C"); }},
     {"lock a node", [](Scene &s) { s.setNodeLock(s.node("hip"), true, true); }},
-    {"keep a statement", [](Scene &s) { s.keepStatement(s.node("hip"), "instanceable -a 0;"); }},
+    {"keep a statement",
+     [](Scene &s) {
+         s.keepStatement(s.node("hip"), {"instanceable -a 0;", ""});
+     }},
     {"reparent", [](Scene &s) { s.reparent(s.node("knee"), s.node("hip"), s.node("left")); }},
     {"reparent to the world", [](Scene &s) { s.reparent(s.node("knee"), s.node("hip"), {}); }},
     {"reparent the first instance",

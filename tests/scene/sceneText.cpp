@@ -67,8 +67,8 @@ void writeNode(const Node &node, std::ostream &out)
     for (const NodePtr &child : node.children())
         out << ' ' << child->name();
     out << '\n';
-    for (const std::string &statement : node.keptStatements())
-        out << "  " << statement << '\n';
+    for (const KeptStatement &statement : node.keptStatements())
+        out << "  " << statement.text << '\n';
     for (const AttributePtr &attribute : node.ownAttributes())
         out << "  attribute " << attribute->longName << '\n';
     for (const AttributePtr &attribute : node.attributes())

@@ -20,12 +20,13 @@ protected:
         return folder_.filePath(QString::fromStdString(name)).toStdString();
     }
 
-    // A file with Maya's usual beginning: the statements start in line 4.
+    // A file with Maya's usual beginning and end: the statements start in line 4.
     std::string write(const std::string &name, const std::string &statements,
                       const std::string &version = "2019") const
     {
         return writeBytes(name, "//Maya ASCII " + version + " scene\n//Codeset: UTF-8\n" +
-                                    "requires maya \"" + version + "\";\n" + statements);
+                                    "requires maya \"" + version + "\";\n" + statements +
+                                    "// End of " + name + "\n");
     }
 
     std::string writeBytes(const std::string &name, const std::string &bytes) const

@@ -134,15 +134,14 @@ NewAttributePtr declare(const Arguments &arguments)
 
 // How many calls are to follow for the children. Tuples that are declared with -at come with their
 // children named by the caller; with -dt they are one piece of data.
-unsigned childCountOf(const Context &context, const NewAttributePtr &attribute,
-                      const Arguments &arguments)
+unsigned childCountOf(const NewAttributePtr &attribute, const Arguments &arguments)
 {
     if (!attribute->isCompound() || attribute->isDataType)
         return 0;
     const std::size_t usual = attribute->children.size();
     attribute->children.clear();
     const std::size_t count = arguments.has("numberOfChildren")
-                                  ? requireCount(context, arguments.of("numberOfChildren")[0].text)
+                                  ? requireCount(arguments.of("numberOfChildren")[0].text)
                                   : usual;
     if (count == 0)
         throw Error("addAttr: A compound needs the number of its children (-nc).");
@@ -160,7 +159,7 @@ void addTo(Context &context, PendingAttributes &pending, const NodePtr &node,
            const Arguments &arguments)
 {
     const NewAttributePtr attribute = declare(arguments);
-    const unsigned childCount = childCountOf(context, attribute, arguments);
+    const unsigned childCount = childCountOf(attribute, arguments);
     NewAttributePtr parent;
     if (arguments.has("parent")) {
         parent = pending.find(node, arguments.string("parent"));

@@ -8,6 +8,7 @@
 
 #include "mel/commands/attributeAlias.h"
 #include "scene/error.h"
+#include "scene/instancePaths.h"
 #include "scene/plugAccess.h"
 
 namespace host::mel
@@ -36,7 +37,7 @@ std::string_view firstStep(std::string_view path)
 
 int instanceOf(Context &context, std::string_view nodeName, const Node &node)
 {
-    if (node.parents().size() < 2 || nodeName.empty())
+    if (nodeName.empty() || !hasSeveralPaths(node))
         return 0;
     const std::vector<DagPath> paths = context.scene().pathsMatching(nodeName);
     return paths.empty() ? 0 : int(paths.front().instanceNumber());
@@ -50,9 +51,22 @@ void selectInstance(Context &context, const PlugName &name, PlugRange &range)
     const bool hasIndex = step.size() < name.attribute.size() && name.attribute[step.size()] == '[';
     const bool hasChild = range.plug.indices[0] != kNoIndex;
     const Node &node = *range.plug.node;
-    if (!hasIndex && hasChild && node.parents().size() > 1 &&
-        node.findAttribute(step)->isPerInstance)
+    if (!hasIndex && hasChild && node.findAttribute(step)->isPerInstance)
         range.plug.indices[0] = instanceOf(context, name.node, node);
+}
+
+// Points, edges and faces are as many as their highest index says. A file has all of them: a small
+// one can't announce millions.
+long long greatestIndex(const Context &context, const Node &node, const Attribute &attribute)
+{
+    constexpr std::string_view kGeometry[] = {"vrts", "edge", "face"};
+    constexpr long long kAlwaysFine = 1'000'000;
+    const bool isGeometry =
+        node.isA("mesh") && std::find(std::begin(kGeometry), std::end(kGeometry),
+                                      attribute.longName) != std::end(kGeometry);
+    return context.isReadingFile && isGeometry
+               ? std::clamp<long long>(context.fileSize, kAlwaysFine, kMaxElements)
+               : kMaxElements;
 }
 
 PlugRange resolve(Context &context, const NodePtr &start, const PlugName &name,
@@ -68,9 +82,10 @@ PlugRange resolve(Context &context, const NodePtr &start, const PlugName &name,
         }
     }
     PlugRange range = resolvePlugPath(node, name.attribute, unknown);
+    const long long most = greatestIndex(context, *node, *range.plug.attribute);
     for (int index : range.plug.indices)
-        checkIndex(context, index);
-    checkIndex(context, range.last);
+        checkIndex(index, most);
+    checkIndex(range.last, most);
     selectInstance(context, name, range);
     return range;
 }
@@ -225,23 +240,17 @@ double requireNumber(std::string_view text)
     return number;
 }
 
-std::size_t requireCount(const Context &context, std::string_view text)
+std::size_t requireCount(std::string_view text)
 {
     const double number = requireNumber(text);
     if (!(number >= 0.0) || number > double(kMaxElements))
         throw Error("The size " + std::string(text) + " is out of range.");
-    checkIndex(context, static_cast<long long>(number));
     return static_cast<std::size_t>(number);
 }
 
-void checkIndex(const Context &context, long long index)
+void checkIndex(long long index, long long most)
 {
-    // Small files have large indices too: a blend shape's full target is item 6000.
-    constexpr long long kAlwaysFine = 1'000'000;
-    const auto fileSize = static_cast<long long>(context.fileSize);
-    const long long limit =
-        context.isReadingFile ? std::clamp(fileSize, kAlwaysFine, kMaxElements) : kMaxElements;
-    if (index > limit)
+    if (index > most)
         throw Error("The index " + std::to_string(index) + " is out of range.");
 }
 

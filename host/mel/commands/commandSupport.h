@@ -68,11 +68,10 @@ Command fileStatement(Command command);
 
 // A number that stands in `text` as MEL and Maya ASCII write it, words such as yes and off too.
 double requireNumber(std::string_view text);
-// An announced size or an index: not negative, and bounded by the file that is read or, otherwise,
-// by kMaxElements.
-std::size_t requireCount(const Context &context, std::string_view text);
-void checkIndex(const Context &context, long long index);
+// An announced size or an index: not negative and no more than kMaxElements.
 constexpr long long kMaxElements = 100'000'000;
+std::size_t requireCount(std::string_view text);
+void checkIndex(long long index, long long most = kMaxElements);
 
 // A whole node or path as the selection holds it.
 SelectionItem itemOf(const NodePtr &node);

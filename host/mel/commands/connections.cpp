@@ -5,6 +5,7 @@
 
 #include "mel/commands/builtInCommands.h"
 #include "mel/commands/commandSupport.h"
+#include "scene/plugAccess.h"
 
 namespace host::mel
 {
@@ -76,6 +77,18 @@ void requireComplete(const Plug &plug)
         throw Error("'" + plug.name() + "' is a multi; an index has to be given.");
 }
 
+// A file may connect what is locked. As in Maya, the first of two connections into one plug stays.
+void refuseInFile(const Plug &source, const Plug &destination)
+{
+    const Connection *existing = destination.node->source(destination);
+    if (existing && existing->plug() != source)
+        throw Error("'" + destination.name() + "' already has an incoming connection from '" +
+                    existing->plug().name() + "'.");
+    if (destination.attribute->longName == "dagSetMembers" && source.node->type().isKnown &&
+        AttributeChain(*source.attribute)[0]->isLearned())
+        throw Error("'" + source.name() + "' is nothing that a set can hold.");
+}
+
 MelValue connectAttr(Context &context, const Arguments &arguments)
 {
     const Plug source = requireConnectionEnd(context, arguments.objects[0].text);
@@ -84,6 +97,7 @@ MelValue connectAttr(Context &context, const Arguments &arguments)
     requireComplete(destination);
     const bool lock = arguments.boolean("lock", false);
     if (context.isReadingFile) {
+        refuseInFile(source, destination);
         context.scene().connect(source, destination, true, lock);
         return MelValue();
     }

@@ -197,7 +197,8 @@ MelValue instanceable(Context &context, const Arguments &arguments)
     const bool allow = arguments.boolean("allow", true);
     for (const NodePtr &node : nodes) {
         if (node)
-            context.scene().keepStatement(node, allow ? "instanceable -a 1" : "instanceable -a 0");
+            context.scene().keepStatement(
+                node, {allow ? "instanceable -a 1;" : "instanceable -a 0;", ""});
     }
     return MelValue();
 }

@@ -96,46 +96,31 @@ MelValue currentUnit(Context &context, const Arguments &arguments)
     return MelValue();
 }
 
-using InfoList = std::vector<std::pair<std::string, std::string>>;
-
-InfoList::iterator findInfo(InfoList &list, std::string_view key)
-{
-    return std::find_if(list.begin(), list.end(),
-                        [key](const InfoList::value_type &entry) { return entry.first == key; });
-}
-
-MelValue queryInfo(InfoList &list, const Arguments &arguments)
+MelValue queryInfo(const FileInfo &info, const Arguments &arguments)
 {
     std::vector<std::string> texts;
     if (arguments.objects.empty()) {
-        for (const auto &[key, value] : list) {
+        for (const auto &[key, value] : info) {
             texts.push_back(key);
             texts.push_back(value);
         }
-    } else if (const auto found = findInfo(list, arguments.objects.front().text);
-               found != list.end()) {
-        texts.push_back(found->second);
+    } else if (const std::string *value = info.find(arguments.objects.front().string())) {
+        texts.push_back(*value);
     }
     return texts;
 }
 
 MelValue fileInfo(Context &context, const Arguments &arguments)
 {
-    InfoList &list = context.scene().facts.fileInfo;
+    FileInfo &info = context.scene().facts.fileInfo;
     if (arguments.isQuery())
-        return queryInfo(list, arguments);
+        return queryInfo(info, arguments);
     if (arguments.has("remove")) {
-        const auto found = findInfo(list, arguments.string("remove"));
-        if (found != list.end())
-            list.erase(found);
+        info.remove(arguments.string("remove"));
         return MelValue();
     }
     requireObjectCount("fileInfo", arguments.objects.size(), {2, 2});
-    const auto found = findInfo(list, arguments.objects[0].text);
-    if (found != list.end())
-        found->second = arguments.objects[1].string();
-    else
-        list.emplace_back(arguments.objects[0].string(), arguments.objects[1].string());
+    info.set(arguments.objects[0].string(), arguments.objects[1].string());
     return MelValue();
 }
 

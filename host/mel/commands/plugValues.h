@@ -23,8 +23,9 @@ namespace host::mel
 //   anything else               one value of `type`; an opaque one may stand for a range
 //
 // An attribute that is only learned keeps the values as text. Checks no lock and no limit. Throws
-// Error when the values do not fit.
-void writeValues(Scene &scene, const PlugRange &range, std::string_view type, ValueTokens &tokens);
+// Error when the values do not fit. Weights of one vertex may stay in `pending`, if that is given.
+void writeValues(Scene &scene, const PlugRange &range, std::string_view type, ValueTokens &tokens,
+                 PendingWeights *pending = nullptr);
 
 // The plugs of plain numbers below `plug`, in order: itself, a tuple's children, a compound's. Not
 // those of elements.

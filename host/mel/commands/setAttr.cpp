@@ -122,12 +122,13 @@ void writeStates(Scene &scene, const PlugRange &range, const Arguments &argument
     }
 }
 
-// Sizes are hints; they tell no more than that something unknown is an array.
+// Sizes are hints, and damaged ones are no reason to leave the values out; they tell no more than
+// that something unknown is an array.
 void takeSizes(Context &context, const PlugRange &range, const Arguments &arguments)
 {
     for (const char *flag : {"size", "capacityHint"}) {
-        if (arguments.has(flag))
-            requireCount(context, arguments.of(flag).front().text);
+        if (arguments.has(flag) && !context.isReadingFile)
+            requireCount(arguments.of(flag).front().text);
     }
     const bool hasValues = arguments.objects.size() > 1;
     if (arguments.has("size") && !hasValues)
@@ -156,7 +157,7 @@ MelValue setAttr(Context &context, const Arguments &arguments)
                 pause.emplace(context.scene());
             const Operand *values = arguments.objects.data();
             ValueTokens tokens(values + 1, values + arguments.objects.size());
-            writeValues(context.scene(), range, type, tokens);
+            writeValues(context.scene(), range, type, tokens, context.pendingWeights);
         } else {
             refuseUnlessSettable(range, name, arguments.objects.size());
             refuseWrongType(range.plug, type);

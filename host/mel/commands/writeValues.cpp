@@ -3,6 +3,7 @@
 
 #include "mel/commands/commandSupport.h"
 #include "mel/commands/plugValues.h"
+#include "mel/pendingWeights.h"
 #include "scene/error.h"
 #include "scene/plugAccess.h"
 
@@ -50,7 +51,8 @@ Rows takeSingleWeights(const PlugRange &range, ValueTokens &tokens)
     return rows;
 }
 
-void writeWeights(Scene &scene, const PlugRange &range, ValueTokens &tokens)
+void writeWeights(Scene &scene, const PlugRange &range, ValueTokens &tokens,
+                  PendingWeights *pending)
 {
     const NodePtr &node = range.plug.node;
     const auto first = std::size_t(range.plug.indices[0]);
@@ -58,6 +60,12 @@ void writeWeights(Scene &scene, const PlugRange &range, ValueTokens &tokens)
         range.plug.isWholeArray() ? takeRows(range, tokens) : takeSingleWeights(range, tokens);
     tokens.requireEnd();
     if (!scene.isRecording()) {
+        if (pending && rows.size() == 1) {
+            pending->add(scene, node, first, rows.front());
+            return;
+        }
+        if (pending)
+            pending->write(scene);
         skin::WeightStore &weights = scene.editWeights(node);
         for (std::size_t i = 0; i < rows.size(); ++i)
             weights.mergeRow(first + i, rows[i]);
@@ -242,7 +250,8 @@ std::vector<Plug> numberLeaves(const Plug &plug)
     return leaves;
 }
 
-void writeValues(Scene &scene, const PlugRange &range, std::string_view type, ValueTokens &tokens)
+void writeValues(Scene &scene, const PlugRange &range, std::string_view type, ValueTokens &tokens,
+                 PendingWeights *pending)
 {
     const Plug &plug = range.plug;
     const Attribute &attribute = *plug.attribute;
@@ -251,7 +260,7 @@ void writeValues(Scene &scene, const PlugRange &range, std::string_view type, Va
     if (!(plug.isWholeArray() ? plug.element(0) : plug).isComplete())
         refuseMulti(plug);
     if (isWeightRow(plug) || isWeight(plug))
-        writeWeights(scene, range, tokens);
+        writeWeights(scene, range, tokens, pending);
     else if (attribute.isLearned())
         writeLearned(scene, range, type, tokens);
     else if (attribute.isPackedArray())
