@@ -117,13 +117,12 @@ bool runScripts(Process &process, const Options &options)
 
 bool saveScene(Process &process, const QString &path)
 {
-    Session &session = process.session();
     return succeeds(process, [&] {
         const std::string file = scenePath(path);
         if (isStandardStream(path))
-            ma::writeFile(session, file);
+            ma::rewriteFile(process.interpreter(), file);
         else
-            ma::saveFile(session, file);
+            ma::saveFile(process.interpreter(), file);
     });
 }
 

@@ -67,15 +67,13 @@ FileText::FileText(std::string path) : path_(std::move(path))
         openStandardInput();
     else
         open();
-    if (size_ == 0)
-        throwFileError(path_, 1, "The file is empty");
-    header_ = readBytes(kHeaderBytes);
-    if (startsWith(header_, kByteOrderMark))
-        header_.erase(0, kByteOrderMark.size());
-    const std::size_t lineEnd = header_.find_first_of("\r\n");
-    linesEndInCr_ =
-        lineEnd + 1 < header_.size() && header_[lineEnd] == '\r' && header_[lineEnd + 1] != '\n';
-    endLines(header_);
+    readHeader();
+}
+
+FileText::FileText(std::string path, std::string bytes)
+    : path_(std::move(path)), input_(std::move(bytes)), size_(input_.size())
+{
+    openInput();
     readHeader();
 }
 
@@ -116,6 +114,11 @@ void FileText::openStandardInput()
     } while (bytes == kInputBytes);
     if (std::ferror(stdin))
         throw Error(path_ + ": " + std::strerror(errno));
+    openInput();
+}
+
+void FileText::openInput()
+{
     if (size_ > 0)
         file_.reset(fmemopen(input_.data(), size_, "rb"));
 }
@@ -132,6 +135,15 @@ std::string FileText::readBytes(std::size_t bytes)
 
 void FileText::readHeader()
 {
+    if (size_ == 0)
+        throwFileError(path_, 1, "The file is empty");
+    header_ = readBytes(kHeaderBytes);
+    if (startsWith(header_, kByteOrderMark))
+        header_.erase(0, kByteOrderMark.size());
+    const std::size_t lineEnd = header_.find_first_of("\r\n");
+    linesEndInCr_ =
+        lineEnd + 1 < header_.size() && header_[lineEnd] == '\r' && header_[lineEnd + 1] != '\n';
+    endLines(header_);
     if (!startsWith(header_, kFirstWords))
         throwFileError(path_, 1, foreignFormat(header_));
     std::string_view rest = header_;

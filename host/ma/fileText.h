@@ -27,11 +27,14 @@ public:
     // Throws Error when there is no such file, it can't be read, is empty, binary, or no Maya ASCII
     // file. With kStandardStream as path the text is that of standard input.
     explicit FileText(std::string path);
+    // The same for bytes that are in memory already; messages name them `path`.
+    FileText(std::string path, std::string bytes);
 
     const std::string &path() const { return path_; }       // how messages name it
     std::size_t size() const { return size_; }              // of the file, bytes
     std::size_t bytesRead() const { return bytesRead_; }    // so far
     const std::string &version() const { return version_; } // "2018ff07"
+    const std::string &codeset() const { return codeset_; } // "1252", "UTF-8"; may be empty
 
     // Appends about `bytes` of the file to `text`; false when there is nothing left. Throws Error
     // on a NUL byte and on a failing disk.
@@ -46,13 +49,14 @@ private:
     };
     void open();
     void openStandardInput();
+    void openInput();
     std::string readBytes(std::size_t bytes);
     void endLines(std::string &bytes) const;
     void readHeader();
     void refuseNulBytes(std::string_view bytes);
 
     std::string path_;
-    std::string input_; // all of standard input, if that is read
+    std::string input_; // all of the text, where it comes from no file
     std::unique_ptr<std::FILE, Closer> file_;
     std::size_t size_ = 0;
     std::size_t bytesRead_ = 0;

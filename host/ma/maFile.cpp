@@ -32,9 +32,11 @@ void openFile(mel::Interpreter &interpreter, const std::string &path)
                          Session::Replacement::openedFile);
 }
 
-void saveFile(Session &session, const std::string &path)
+void saveFile(mel::Interpreter &interpreter, const std::string &path)
 {
-    writeFile(session, path);
+    Session &session = interpreter.session();
+    rewriteFile(interpreter, path);
+    session.scene().facts.path = path;
     session.setFileName(path);
     session.confirmFileName();
     session.scene().setModified(false);

@@ -32,15 +32,22 @@ void openFile(mel::Interpreter &interpreter, const std::string &path);
 void importFile(mel::Interpreter &interpreter, const std::string &path,
                 const std::string &nameSpace, const std::string &prefix);
 
-// Writes the scene. The file is replaced only when all of it could be written. Throws Error.
+// Writes the scene in the host's own form. The file is replaced only when all of it could be
+// written. Throws Error.
 void writeFile(Session &session, const std::string &path);
 // The same for some nodes of the scene, see SceneWriter::writePart.
 void writePart(Session &session, const std::string &path,
                const std::unordered_set<const Node *> &nodes);
 
-// Writes the scene to its file from now on: the session has its name and is unmodified. Throws
-// Error.
-void saveFile(Session &session, const std::string &path);
+// The same, but keeps the text of the file that the scene was read from or last saved to, if it is
+// still there, wherever it says what the scene holds. The outcome is read again before anything is
+// written: if it does not say the same as the scene, the host's own form is written, with a
+// warning.
+void rewriteFile(mel::Interpreter &interpreter, const std::string &path);
+
+// Rewrites the scene to what is its file from now on: the session has its name and is unmodified.
+// Throws Error.
+void saveFile(mel::Interpreter &interpreter, const std::string &path);
 
 // The path from the root, without "..". Throws Error where the working folder is gone.
 std::string absolutePath(const std::string &path);

@@ -56,13 +56,6 @@ constexpr const char *kAddAliasesLong =
     "\taddAttr -cachedInternally true -hidden true -shortName \"aal\" "
     "-longName \"attributeAliasList\" -dataType \"attributeAlias\";";
 
-bool hasAliases(const NodePtr &node)
-{
-    const AttributePtr aliases = node->findAttribute(kAliases);
-    return aliases && !aliases->isDynamic && !aliases->isLearned() &&
-           node->datum(Plug(node, aliases));
-}
-
 bool isDataKind(const Attribute &attribute)
 {
     switch (attribute.kind) {
@@ -78,7 +71,21 @@ bool isDataKind(const Attribute &attribute)
 
 } // namespace
 
+bool hasAliases(const NodePtr &node)
+{
+    const AttributePtr aliases = node->findAttribute(kAliases);
+    return aliases && !aliases->isDynamic && !aliases->isLearned() &&
+           node->datum(Plug(node, aliases));
+}
+
 void NodeWriter::writeNode(const NodePtr &node)
+{
+    writeCreateNode(node);
+    writeUuid(*node);
+    writeBlock(node);
+}
+
+void NodeWriter::writeCreateNode(const NodePtr &node)
 {
     const FlagNames &flags = style_.flags;
     out_.begin("createNode").wordOrQuoted(node->type().name);
@@ -92,11 +99,19 @@ void NodeWriter::writeNode(const NodePtr &node)
                             parentText(std::const_pointer_cast<Node>(parent->shared_from_this())));
     }
     out_.end();
-    if (!node->uuid().empty()) {
-        out_.begin("rename", kInsideNode);
-        out_.flagQuoted(flags("-uid", "-uuid"), node->uuid()).end();
-    }
-    writeBlock(node);
+}
+
+void NodeWriter::writeUuid(const Node &node)
+{
+    if (node.uuid().empty())
+        return;
+    out_.begin("rename", kInsideNode);
+    out_.flagQuoted(style_.flags("-uid", "-uuid"), node.uuid()).end();
+}
+
+void NodeWriter::writeAddAliases()
+{
+    out_.line(style_.flags(kAddAliasesShort, kAddAliasesLong));
 }
 
 void NodeWriter::writeDefaultNode(const NodePtr &node)
@@ -117,7 +132,7 @@ void NodeWriter::writeDefaultNode(const NodePtr &node)
 void NodeWriter::writeBlock(const NodePtr &node)
 {
     if (hasAliases(node))
-        out_.line(style_.flags(kAddAliasesShort, kAddAliasesLong));
+        writeAddAliases();
     for (const AttributePtr &attribute : node->ownAttributes()) {
         if (attribute->isDynamic)
             writeAddAttr(*attribute);

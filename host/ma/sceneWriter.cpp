@@ -21,6 +21,8 @@ namespace
 // The first release that writes packed weights.
 constexpr int kFirstPackedRelease = 2018;
 
+} // namespace
+
 FileStyle styleOf(const FileFacts &facts)
 {
     FileStyle style;
@@ -29,6 +31,15 @@ FileStyle styleOf(const FileFacts &facts)
     if (release > 0 && release < kFirstPackedRelease)
         style.weights = WeightForm::runs;
     return style;
+}
+
+namespace
+{
+
+// Whether a connection joins a list rather than taking a place of its own.
+bool takesNext(const Plug &destination)
+{
+    return destination.isElement() && !destination.attribute->indexMatters;
 }
 
 // What comes from elsewhere must not end the comment that it stands in.
@@ -60,6 +71,20 @@ void writeThrough(Session &session, const std::string &path, Function write)
 }
 
 } // namespace
+
+void writeConnection(StatementWriter &out, const FlagNames &flags, const Plug &destination,
+                     const Connection &connection)
+{
+    const bool isNext = takesNext(destination);
+    out.begin("connectAttr")
+        .quoted(plugName(connection.plug(), flags.areLong))
+        .quoted(plugName(isNext ? destination.array() : destination, flags.areLong));
+    if (connection.isLocked)
+        out.flag(flags("-l", "-lock"), "on");
+    if (isNext)
+        out.word(flags("-na", "-nextAvailable"));
+    out.end();
+}
 
 SceneWriter::SceneWriter(StatementWriter &out, Scene &scene)
     : out_(out), scene_(scene), style_(styleOf(scene.facts)), nodes_(out_, style_)
@@ -146,15 +171,21 @@ void SceneWriter::writeHeader(const std::string &fileName)
 void SceneWriter::writeFacts()
 {
     const FileFacts &facts = scene_.facts;
-    const FlagNames &flags = style_.flags;
     out_.begin("requires").word("maya").quoted(facts.mayaVersion).end();
     for (const std::string &statement : facts.requiredPlugins)
         out_.line(statement);
+    writeUnits();
+    for (const auto &[key, value] : facts.fileInfo)
+        out_.begin("fileInfo").quoted(key).quoted(value).end();
+}
+
+void SceneWriter::writeUnits()
+{
+    const FileFacts &facts = scene_.facts;
+    const FlagNames &flags = style_.flags;
     out_.begin("currentUnit").word(flags("-l", "-linear")).wordOrQuoted(facts.linearUnit);
     out_.word(flags("-a", "-angle")).wordOrQuoted(facts.angularUnit);
     out_.word(flags("-t", "-time")).wordOrQuoted(facts.timeUnit).end();
-    for (const auto &[key, value] : facts.fileInfo)
-        out_.begin("fileInfo").quoted(key).quoted(value).end();
 }
 
 bool SceneWriter::isPresent(const NodePtr &node) const
@@ -194,11 +225,17 @@ void SceneWriter::writeInstance(const NodePtr &node, const NodePtr &parent)
     if (done == instances_.end() || node->parents()[done->second] != parent.get())
         return;
     ++done->second;
+    writeInstanceOf(node, *parent);
+}
+
+void SceneWriter::writeInstanceOf(const NodePtr &node, const Node &parent)
+{
     out_.begin("parent").word("-s").word("-nc").word("-r").word("-add");
-    if (parent == scene_.world())
+    if (&parent == scene_.world().get())
         out_.word("-w").quoted(DagPath::first(node).fullName());
     else
-        out_.quoted(DagPath::first(node).fullName()).quoted(parentText(parent));
+        out_.quoted(DagPath::first(node).fullName())
+            .quoted(parentText(std::const_pointer_cast<Node>(parent.shared_from_this())));
     out_.end();
 }
 
@@ -236,7 +273,6 @@ void SceneWriter::writeConnections()
 
 void SceneWriter::writeConnectionsInto(const NodePtr &node)
 {
-    const FlagNames &flags = style_.flags;
     // A node that another scene has too may join its lists, but not take its connections.
     const bool isElsewhere = isForOther_ && (node->isDefault() || isPresent(node));
     std::vector<std::pair<PlugKey, Connection>> sources(node->sources().begin(),
@@ -244,45 +280,47 @@ void SceneWriter::writeConnectionsInto(const NodePtr &node)
     std::sort(sources.begin(), sources.end(),
               [](const auto &a, const auto &b) { return isWrittenBefore(a.first, b.first); });
     for (const auto &[key, connection] : sources) {
-        Plug destination = node->plugOf(key);
-        const bool takesNext = destination.isElement() && !destination.attribute->indexMatters;
+        const Plug destination = node->plugOf(key);
         const bool isFromPart = connection.node->isDefault() || isInPart(*connection.node);
-        if (!isFromPart || (isElsewhere && !takesNext))
+        if (!isFromPart || (isElsewhere && !takesNext(destination)))
             continue;
-        if (takesNext)
-            destination = destination.array();
-        out_.begin("connectAttr")
-            .quoted(plugName(connection.plug(), flags.areLong))
-            .quoted(plugName(destination, flags.areLong));
-        if (connection.isLocked)
-            out_.flag(flags("-l", "-lock"), "on");
-        if (takesNext)
-            out_.word(flags("-na", "-nextAvailable"));
-        out_.end();
+        writeConnection(out_, style_.flags, destination, connection);
         ++connections_;
     }
+}
+
+void writeKeptConnection(StatementWriter &out, const KeptConnection &connection)
+{
+    const auto textOf = [](const KeptConnection::End &end) {
+        const NodePtr node = end.node.lock();
+        return node ? nodeText(*node) + end.text : end.text;
+    };
+    out.begin("connectAttr")
+        .quoted(textOf(connection.source))
+        .quoted(textOf(connection.destination))
+        .values(connection.flags)
+        .end();
+}
+
+bool hasItsNodes(const KeptConnection &connection)
+{
+    const auto isThere = [](const KeptConnection::End &end) {
+        const NodePtr node = end.node.lock();
+        return !end.hasNode || (node && node->isInScene());
+    };
+    return isThere(connection.source) && isThere(connection.destination);
 }
 
 // Those that could not be made, unless a node of theirs was deleted or is left out.
 void SceneWriter::writeKeptConnections()
 {
-    const auto textOf = [this](const KeptConnection::End &end) {
-        const NodePtr node = end.node.lock();
-        if (!end.hasNode)
-            return end.text;
-        const bool isThere = node && node->scene() == &scene_;
-        const bool isWritten = isThere && (!part_ || part_->count(node.get()) > 0);
-        return isWritten ? nodeText(*node) + end.text : std::string();
+    const auto isLeftOut = [this](const KeptConnection::End &end) {
+        return end.hasNode && part_ && part_->count(end.node.lock().get()) == 0;
     };
     for (const KeptConnection &connection : scene_.facts.keptConnections) {
-        const std::string source = textOf(connection.source);
-        const std::string destination = textOf(connection.destination);
-        if (!source.empty() && !destination.empty())
-            out_.begin("connectAttr")
-                .quoted(source)
-                .quoted(destination)
-                .values(connection.flags)
-                .end();
+        if (hasItsNodes(connection) && !isLeftOut(connection.source) &&
+            !isLeftOut(connection.destination))
+            writeKeptConnection(out_, connection);
     }
 }
 

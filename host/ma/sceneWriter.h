@@ -13,6 +13,18 @@
 namespace host::ma
 {
 
+// How a file of the scene's release writes it.
+FileStyle styleOf(const FileFacts &facts);
+
+// `connectAttr` for a connection into `destination`.
+void writeConnection(StatementWriter &out, const FlagNames &flags, const Plug &destination,
+                     const Connection &connection);
+
+// The same for one that the file made and the scene can't. REQUIRES: hasItsNodes().
+void writeKeptConnection(StatementWriter &out, const KeptConnection &connection);
+// False once a node of it was deleted.
+bool hasItsNodes(const KeptConnection &connection);
+
 // The nodes that are not among those written, default nodes aside, and the connections that they
 // take with them ("a.x -> b.y"); or how many connections are missing of those that `connections`
 // counts.
@@ -36,6 +48,10 @@ public:
     // Nodes and connections only, for another scene: what that scene has anyway, default nodes and
     // the nodes in `present`, is named in connections but not changed.
     void writeNodesFor(const std::vector<NodePtr> &present);
+
+    // Parts of the file: `currentUnit`, and one more place of an instanced node.
+    void writeUnits();
+    void writeInstanceOf(const NodePtr &node, const Node &parent);
 
 private:
     void refuseToLose() const;

@@ -31,6 +31,8 @@ public:
     // Whether a comment "// End of NAME", with which Maya ends a file, stands behind the last
     // statement. REQUIRES: next() was false.
     bool hasEndMark() const;
+    // Blanks and comments after the last statement, once next() has given false.
+    std::string_view rest() const { return std::string_view(buffer_).substr(position_); }
 
 private:
     bool fetchMore(); // after the statement's beginning; false at the end of the file

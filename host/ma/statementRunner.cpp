@@ -93,13 +93,13 @@ StatementRunner::StatementRunner(mel::Context context, FileWarnings *warnings)
     context_.pendingWeights = &pendingWeights_;
 }
 
-void StatementRunner::run(const mel::Statement &statement)
+bool StatementRunner::run(const mel::Statement &statement)
 {
     line_ = statement.line;
-    runHere(statement);
+    return runHere(statement);
 }
 
-void StatementRunner::runHere(const mel::Statement &statement)
+bool StatementRunner::runHere(const mel::Statement &statement)
 {
     // The text of a file must not reach commands that it may not call.
     for (const mel::Argument &argument : statement.arguments) {
@@ -109,12 +109,13 @@ void StatementRunner::runHere(const mel::Statement &statement)
     if (contains(kAboutCurrentNode, statement.command))
         requireCurrentNode(statement);
     try {
-        call(statement);
+        return call(statement);
     } catch (const Error &error) {
         if (mustNotFail(statement))
             throw;
         keep(statement);
         warn(statement, error.what());
+        return false;
     }
 }
 
@@ -164,11 +165,13 @@ bool StatementRunner::mustNotFail(const mel::Statement &statement)
     return owner && owner->isA("skinCluster") && (attribute == "wl" || attribute == "weightList");
 }
 
-void StatementRunner::call(const mel::Statement &statement)
+bool StatementRunner::call(const mel::Statement &statement)
 {
     const std::string name(statement.command);
-    if (name == "select")
-        return selectNode(statement);
+    if (name == "select") {
+        selectNode(statement);
+        return true;
+    }
     const mel::Command *command = context_.interpreter.commands().find(name);
     // The file command does more than name references.
     const bool isForbidden = name == "file" && !hasFlag(statement, "-r", "-reference") &&
@@ -184,9 +187,10 @@ void StatementRunner::call(const mel::Statement &statement)
     } else if (name == "file") {
         noteReference(statement);
     }
+    return true;
 }
 
-void StatementRunner::skip(const mel::Statement &statement)
+bool StatementRunner::skip(const mel::Statement &statement)
 {
     Scene &scene = context_.scene();
     if (currentNode_ && statement.column > 1)
@@ -195,6 +199,7 @@ void StatementRunner::skip(const mel::Statement &statement)
         scene.facts.trailing.push_back(textOf(statement));
     warn(statement,
          '"' + std::string(statement.command) + "\" is no command of a scene file; it was skipped");
+    return false;
 }
 
 // What a statement takes for granted and the scene may not know yet.

@@ -23,18 +23,21 @@ public:
     StatementRunner(const StatementRunner &) = delete;
     StatementRunner &operator=(const StatementRunner &) = delete;
 
-    // Throws Error, without file and line, when the failure must not be passed over.
-    void run(const mel::Statement &statement);
+    // False if the statement failed and was kept. Throws Error, without file and line, when the
+    // failure must not be passed over.
+    bool run(const mel::Statement &statement);
     // Every statement of a text that the host wrote itself.
     void runAll(std::string_view text);
     // To be called behind the last statement.
     void finish();
+    // The one that the next statement is about; null if none.
+    Node *currentNode() const { return currentNode_.get(); }
 
 private:
-    void runHere(const mel::Statement &statement);
+    bool runHere(const mel::Statement &statement);
     void runAbout(const NodePtr &node, const std::string &text);
-    void call(const mel::Statement &statement);
-    void skip(const mel::Statement &statement);
+    bool call(const mel::Statement &statement);
+    bool skip(const mel::Statement &statement);
     bool mustNotFail(const mel::Statement &statement);
     void prepare(const mel::Statement &statement);
     void selectNode(const mel::Statement &statement);

@@ -84,6 +84,18 @@ std::size_t valueLength(std::string_view text)
 
 } // namespace
 
+std::string realText(double number)
+{
+    char space[64];
+    return std::string(format(number, space));
+}
+
+std::string singleText(double number)
+{
+    char space[64];
+    return std::string(format(float(number), space));
+}
+
 std::string quotedText(std::string_view text)
 {
     std::string quoted = "\"";

@@ -50,6 +50,10 @@ private:
     std::size_t lineStart_ = 0;
 };
 
+// A number as real() and single() write it.
+std::string realText(double number);
+std::string singleText(double number);
+
 // The text in quotes, with MEL's escapes.
 std::string quotedText(std::string_view text);
 

@@ -37,6 +37,27 @@ bool isAscii(std::string_view bytes)
 
 } // namespace
 
+std::optional<std::string> encodeText(std::string_view text, std::string_view codeset)
+{
+    const std::string name = conversionName(codeset);
+    if (name == "UTF-8" || isAscii(text))
+        return std::string(text);
+    const iconv_t conversion = iconv_open(name.c_str(), "UTF-8");
+    if (conversion == kNoConversion)
+        return std::nullopt;
+    std::string encoded(text.size() * 2 + 16, '\0'); // codesets of Maya: at most two bytes for two
+    char *input = const_cast<char *>(text.data());
+    std::size_t left = text.size();
+    char *output = encoded.data();
+    std::size_t room = encoded.size();
+    const std::size_t result = iconv(conversion, &input, &left, &output, &room);
+    iconv_close(conversion);
+    if (result != 0 || left > 0) // also characters that were replaced by others
+        return std::nullopt;
+    encoded.resize(std::size_t(output - encoded.data()));
+    return encoded;
+}
+
 TextDecoder::TextDecoder(std::string_view codeset)
     : conversion_(iconv_open("UTF-8", conversionName(codeset).c_str()))
 {

@@ -8,11 +8,15 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace host::ma
 {
+
+// The way back: UTF-8 in that codeset. Nothing when the codeset is not known or lacks a character.
+std::optional<std::string> encodeText(std::string_view text, std::string_view codeset);
 
 class TextDecoder
 {

@@ -127,6 +127,13 @@ bool isFullTuple(const Attribute &attribute, const Datum &datum)
 
 } // namespace
 
+std::string numberText(const Attribute &attribute, double number)
+{
+    if (attribute.kind == AttributeKind::boolean)
+        return number != 0.0 ? "yes" : "no";
+    return attribute.kind == AttributeKind::floating ? singleText(number) : realText(number);
+}
+
 ValueWriter::ValueWriter(StatementWriter &out, const FileStyle &style, const NodePtr &node)
     : out_(out), style_(style), node_(node)
 {
@@ -155,6 +162,22 @@ void ValueWriter::writeAttribute(const AttributePtr &attribute)
     if (!attribute->isComputed && attribute->isStorable)
         writeStored(attribute);
     writeStates(*attribute);
+}
+
+void ValueWriter::writePart(const Plug &plug, const Datum &datum)
+{
+    states_.clear();
+    if (!plug.isWholeArray())
+        writeItem(plug, datum);
+    else if (datum.packed)
+        writeNumbers(plug, *datum.packed);
+    else
+        writeElements(plug, datum);
+}
+
+void ValueWriter::writeState(const Plug &plug)
+{
+    begin(plug).end();
 }
 
 void ValueWriter::writeStored(const AttributePtr &attribute)
@@ -336,7 +359,9 @@ void ValueWriter::writeLeaf(const Plug &plug, const Datum &datum)
 void ValueWriter::writeSize(const Plug &array, std::size_t size)
 {
     pendingSize_ = size;
-    begin(array).end();
+    if (style_.announcesSizes)
+        begin(array).end();
+    pendingSize_ = 0;
 }
 
 void ValueWriter::writeStates(const Attribute &top)
@@ -366,11 +391,12 @@ StatementWriter &ValueWriter::begin(const Plug &plug, const std::string &range)
 {
     const FlagNames &flags = style_.flags;
     out_.begin("setAttr", StatementWriter::Place::insideNode);
-    if (pendingSize_ > 0)
-        out_.flag(flags("-s", "-size"), std::to_string(std::exchange(pendingSize_, 0)));
-    if (pendingCapacity_ > 0)
-        out_.flag(flags("-ch", "-capacityHint"),
-                  std::to_string(std::exchange(pendingCapacity_, 0)));
+    const std::size_t size = std::exchange(pendingSize_, 0);
+    if (size > 0 && style_.announcesSizes)
+        out_.flag(flags("-s", "-size"), std::to_string(size));
+    const std::size_t capacity = std::exchange(pendingCapacity_, 0);
+    if (capacity > 0 && style_.announcesSizes)
+        out_.flag(flags("-ch", "-capacityHint"), std::to_string(capacity));
     const PlugState state = range.empty() ? takeState(plug) : PlugState();
     if (state.isAltered)
         out_.word(flags("-av", "-alteredValue"));

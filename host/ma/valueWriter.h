@@ -29,7 +29,11 @@ enum class WeightForm {
 struct FileStyle {
     FlagNames flags;
     WeightForm weights = WeightForm::packed;
+    bool announcesSizes = true; // with -s and -ch, which say nothing of their own
 };
+
+// A number as the values of such an attribute are written: yes and no, single precision.
+std::string numberText(const Attribute &attribute, double number);
 
 class ValueWriter
 {
@@ -39,7 +43,13 @@ public:
     // Declared attributes, then learned ones in the order in which the file had them, then dynamic
     // ones; after the values of each the states of its plugs that have no value.
     void writeAll();
+    // One top-level attribute, with the states of its plugs.
     void writeAttribute(const AttributePtr &attribute);
+
+    // Parts of an attribute, for a file that has the rest of it already: what `datum`, taken from
+    // the plug's own, holds of it; and the state of one plug.
+    void writePart(const Plug &plug, const Datum &datum);
+    void writeState(const Plug &plug);
 
 private:
     using States = std::map<PlugKey, PlugState>;

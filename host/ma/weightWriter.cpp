@@ -23,8 +23,8 @@ class WeightWriter
 {
 public:
     WeightWriter(StatementWriter &out, const FileStyle &style, const skin::WeightStore &weights)
-        : out_(out), flags_(style.flags), weights_(weights), list_(flags_(".wl", ".weightList")),
-          row_(flags_("].w", "].weights"))
+        : out_(out), flags_(style.flags), announcesSizes_(style.announcesSizes), weights_(weights),
+          list_(flags_(".wl", ".weightList")), row_(flags_("].w", "].weights"))
     {
     }
 
@@ -44,6 +44,7 @@ private:
 
     StatementWriter &out_;
     FlagNames flags_;
+    bool announcesSizes_;
     const skin::WeightStore &weights_;
     const std::string list_;
     const std::string row_;
@@ -105,7 +106,7 @@ void WeightWriter::writeRuns()
             return last + 1;
         };
         const bool isOneRun = !row.empty() && endOfRun(row.begin()) == row.end();
-        if (!isOneRun) {
+        if (!isOneRun && announcesSizes_) {
             out_.begin("setAttr", kInsideNode);
             out_.flag(flags_("-s", "-size"), std::to_string(row.size()));
             out_.quoted(list_ + '[' + std::to_string(v) + row_).end();
@@ -123,7 +124,7 @@ void WeightWriter::writeRun(std::size_t vertex, const skin::Entry *begin, const 
 {
     const std::size_t count = std::size_t(end - begin);
     out_.begin("setAttr", kInsideNode);
-    if (isWholeRow && count > 1)
+    if (isWholeRow && count > 1 && announcesSizes_)
         out_.flag(flags_("-s", "-size"), std::to_string(count));
     std::string path =
         list_ + '[' + std::to_string(vertex) + row_ + '[' + std::to_string(begin->influence);
@@ -142,7 +143,8 @@ void writeWeights(StatementWriter &out, const FileStyle &style, const skin::Weig
     if (weights.rowCount() == 0)
         return;
     WeightWriter writer(out, style, weights);
-    writer.writeSize();
+    if (style.announcesSizes)
+        writer.writeSize();
     if (style.weights == WeightForm::packed)
         writer.writePacked();
     else

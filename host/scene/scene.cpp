@@ -149,6 +149,18 @@ void Scene::addDefaultNodes()
     nextSerial_ += kCameraNodes;
 }
 
+// Whether the file has brought the camera, at its place or parented elsewhere, or something else
+// stands at its place.
+bool Scene::hasCamera(const std::string &name) const
+{
+    const std::vector<NodePtr> &named = nodesNamed(name);
+    return !nodesNamed(name + "Shape").empty() ||
+           std::any_of(named.begin(), named.end(), [this](const NodePtr &node) {
+               return node->isShared() || node->parents().empty() ||
+                      node->parents().front() == world_.get();
+           });
+}
+
 void Scene::addMissingCameras()
 {
     const unsigned long next = nextSerial_;
@@ -157,7 +169,7 @@ void Scene::addMissingCameras()
     for (std::size_t i = 0; i < std::size(kDefaultCameras); ++i) {
         const DefaultCamera &camera = kDefaultCameras[i];
         const std::string shapeName = std::string(camera.name) + "Shape";
-        if (!nodesNamed(camera.name).empty() || !nodesNamed(shapeName).empty())
+        if (hasCamera(camera.name))
             continue;
         nextSerial_ = std::size(kDefaultNodes) + 2 * i;
         const NodePtr transform = addNode(*types_.find("transform"), camera.name, nullptr);

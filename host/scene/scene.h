@@ -51,6 +51,7 @@ struct FileFacts {
     std::vector<std::string> references; // "file -rdi ...", "file -r ..."
     std::vector<std::string> trailing;   // relationship, dataStructure, and what nobody understood
     std::vector<KeptConnection> keptConnections;
+    std::string path;          // where it was read from or last saved to; may be empty
     bool hasLongNames = false; // the file wrote long flags and attribute names
 };
 
@@ -72,6 +73,7 @@ public:
     // --- Finding ------------------------------------------------------------------------------
     // All nodes in order of creation; the world is not among them.
     std::vector<NodePtr> nodes() const;
+    std::size_t nodeCount() const { return nodes_.size(); }
     const NodePtr &world() const { return world_; } // parent of the topmost DAG nodes
     // Nodes of that name ("hip", "rig:hip", ":hip" for the root namespace). No paths.
     const std::vector<NodePtr> &nodesNamed(std::string_view name) const;
@@ -190,6 +192,7 @@ private:
     // Runs `redo`, which does all or throws, and hands both to the recorder.
     void perform(std::function<void()> redo, std::function<void()> undo);
     void addDefaultNodes();
+    bool hasCamera(const std::string &name) const;
     NodePtr addNode(const NodeType &type, std::string name, const NodePtr &parent);
     std::vector<NodePtr> candidates(const std::vector<std::string_view> &parts) const;
     // All or nothing, where memory has run out.

@@ -110,7 +110,7 @@ MelValue save(Context &context, const Arguments &arguments)
         throw Error("file: The scene has no name yet; -rename gives it one.");
     try {
         const std::string path = writablePath(session.fileName(), arguments);
-        ma::saveFile(session, path);
+        ma::saveFile(context.interpreter, path);
         return path;
     } catch (...) {
         session.takeBackFileName();
