@@ -8,7 +8,8 @@ const char kNoCellSelected[] = "There is no cell selected.";
 // Loading.
 const char kOutOfMemory[] = "Out of memory.";
 const char kNothingSkinnedSelected[] = // ^1s: the first object that is selected
-    "Nothing was loaded: ^1s is neither a skinned mesh nor vertices of one.";
+    "Nothing was loaded: ^1s is neither vertices of a skinned mesh nor an object whose first shape "
+    "is one.";
 
 // Rounding.
 const char kRowWithoutColumns[] = "This row doesn't have more than 2 columns.";
