@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "commands/selectionHold.h"
 
-#include "plugin/processState.h"
-
 #include <maya/MGlobal.h>
 
-selectionHold::selectionHold() : restoreOrigin_(selectionSetByEditor)
+selectionHold::selectionHold()
 {
-    selectionSetByEditor = true;
     MGlobal::getActiveSelectionList(selected_, true);
     MGlobal::getHiliteList(hilited_);
 }

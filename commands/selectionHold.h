@@ -3,7 +3,7 @@
 // is what it was, with the objects that Maya offers components of. Not on the undo queue.
 #pragma once
 
-#include <QScopedValueRollback>
+#include "plugin/sceneCallbacks.h"
 
 #include <maya/MSelectionList.h>
 
@@ -17,7 +17,7 @@ private:
     selectionHold(const selectionHold &);            // not copied
     selectionHold &operator=(const selectionHold &); // not assigned
 
-    QScopedValueRollback<bool> restoreOrigin_;
+    const ownSelectionChange own_;
     MSelectionList selected_;
     MSelectionList hilited_;
 };

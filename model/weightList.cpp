@@ -13,6 +13,15 @@ bool weightList::isInScene(int shape) const
            shapePaths[static_cast<unsigned int>(shape)].isValid();
 }
 
+bool weightList::isSceneGone() const
+{
+    for (int shape = 0; shape < shapeCount(); ++shape) {
+        if (skinClusterHandles.at(shape).isAlive())
+            return false;
+    }
+    return shapeCount() > 0;
+}
+
 int weightList::endOfVertexRows(int shape) const
 {
     const int next = shape + 1;

@@ -48,6 +48,8 @@ struct weightList {
 
     // False once the shape or its skin cluster was deleted or replaced: they are not to be asked.
     bool isInScene(int shape) const;
+    // Whether there are shapes, and Maya keeps no skin cluster of them, not even for undo.
+    bool isSceneGone() const;
 
     // The rows [firstVertexRow, endOfVertexRows) are the shape's vertices.
     int firstVertexRow(int shape) const { return shapeRows.at(shape) + 1; }

@@ -3,6 +3,8 @@
 // without hearing of it.
 #pragma once
 
+#include <QScopedValueRollback>
+
 #include <maya/MSelectionList.h>
 
 // Callbacks for the events "SelectionChanged" and "SceneOpened". Both take the weightTableModel
@@ -10,6 +12,23 @@
 // selects the table's rows of the vertices picked; the second empties the table.
 void onSelectionChanged(void *model);
 void onSceneOpened(void *model);
+
+// Lives while the editor changes Maya's selection. Events that come meanwhile leave the table
+// alone; so does one that comes later and finds what it last knew to be selected: Maya's releases
+// differ in when they deliver. To be ended with the selection that it began with, or by
+// replaceSelectionQuietly().
+class ownSelectionChange
+{
+public:
+    ownSelectionChange();
+
+private:
+    ownSelectionChange(const ownSelectionChange &);            // not copied
+    ownSelectionChange &operator=(const ownSelectionChange &); // not assigned
+
+    QScopedValueRollback<bool> restoreOrigin_;
+    QScopedValueRollback<bool> restoreAutoUpdate_;
+};
 
 // Makes `selection` Maya's selection; the event that this raises leaves the table alone. An empty
 // selection changes nothing.

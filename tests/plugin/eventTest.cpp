@@ -6,6 +6,8 @@
 
 #include "support/editorScene.h"
 
+#include <maya/MGlobal.h>
+
 class event : public EditorScene
 {
 protected:
@@ -57,6 +59,52 @@ TEST_F(event, ofASelectionReloadsWhileTheTableFollowsMaya)
     EXPECT_EQ(rowNames(), "hatShape vtx[1]") << "nothing selected keeps the table";
     mel("undo; undo");
     EXPECT_EQ(rowNames(), "bodyShape vtx[0] vtx[1] vtx[2] vtx[3] vtx[4] vtx[5]");
+}
+
+TEST_F(event, ofTheEditorsOwnSelectionLeavesTheTableAlone)
+{
+    const char body[] = "bodyShape vtx[0] vtx[1] vtx[2] vtx[3] vtx[4] vtx[5]";
+    load("body");
+    call("setAutoUpdate", true);
+    call("toggleHilight", true);
+    selectRow(2);
+    call("rowHeaderSelected", 2);
+    EXPECT_EQ(selectedInMaya(), "body.vtx[1]");
+    EXPECT_EQ(rowNames(), body) << "highlighted";
+    call("applySmoothSkinWeights", 0.5, 1);
+    EXPECT_EQ(rowNames(), body) << "smoothed";
+    mel("select -r body.vtx[1]");
+    EXPECT_EQ(rowNames(), "bodyShape vtx[1]") << "the user selects the same again";
+
+    load("body hat");
+    selectRow(2);
+    MGlobal::executeCommand("select -r hat.vtx[1]");
+    call("rowHeaderSelected", 2);
+    mel("select -r hat.vtx[2]");
+    EXPECT_EQ(rowNames(), "hatShape vtx[2]") << "the user selects before the event has come";
+    MGlobal::executeCommand("select -r body.vtx[3]");
+    call("applySmoothSkinWeights", 0.5, 1);
+    EXPECT_EQ(rowNames(), "bodyShape vtx[3]") << "the user has selected just before a smoothing";
+}
+
+TEST_F(event, ofTheSelectionThatASceneTakesAlongShowsNoError)
+{
+    QTemporaryDir folder;
+    const std::string file = folder.filePath("scene.ma").toStdString();
+    mel("file -rename \"" + file + "\"; file -f -save -type \"mayaAscii\"");
+    for (const bool follows : {true, false}) {
+        for (const std::string &leave : {std::string("-new"), "-open \"" + file + "\""}) {
+            mel("file -f -open \"" + file + "\"; select -cl; select -r hip");
+            load("body");
+            call("setAutoUpdate", follows);
+            call("toggleHilight", true);
+            selectRow(2);
+            call("rowHeaderSelected", 2);
+            takeErrors();
+            mel("file -f " + leave);
+            EXPECT_EQ(takeErrors() + takeWarnings(), "") << leave << follows;
+        }
+    }
 }
 
 TEST_F(event, ofASceneOpenedEmptiesTheTableAndSwallowsTheNextSelection)

@@ -34,6 +34,7 @@ protected:
         EXPECT_TRUE(QMetaObject::invokeMethod(
             model_, slot, QArgument<Types>(QMetaType::fromType<Types>().name(), arguments)...))
             << slot;
+        becomeIdle();
     }
 
     // Headers and cells:

@@ -52,8 +52,13 @@ MayaSession::~MayaSession()
 void MayaSession::mel(const std::string &script)
 {
     EXPECT_TRUE(MGlobal::executeCommand(script.c_str(), false, true)) << script;
+    becomeIdle();
+}
+
+void MayaSession::becomeIdle()
+{
     if (qEnvironmentVariableIsSet("KORVEX_DEFERRED_EVENTS"))
-        QCoreApplication::processEvents(); // Maya is idle before a user goes on
+        QCoreApplication::processEvents();
 }
 
 std::string MayaSession::melString(const std::string &script)

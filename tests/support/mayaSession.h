@@ -32,6 +32,8 @@ protected:
     // The weights of a vertex, or the mean of several: "0.5 0.25 0.25".
     static std::string melWeights(const std::string &vertices,
                                   const std::string &skinCluster = "skinCluster1");
+    // Where events come late, they come now: before a user goes on. mel() ends with it.
+    static void becomeIdle();
     // Runs MEL that must fail and gives the errors that it shows, a line each; that they are in
     // line 1 goes without saying.
     std::string melError(const std::string &script);
