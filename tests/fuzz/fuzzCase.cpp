@@ -95,7 +95,7 @@ std::vector<std::string> namesIn(host::Scene &scene)
         if (node->isDefault())
             continue;
         const std::string name = node->uniqueName();
-        names.push_back(name);
+        names.insert(names.end(), 8, name);
         for (const char *plug : {".t", ".tx", ".wm", ".wl[0].w", ".ma[1]", ".liw", ".vtx[0:2]",
                                  ".v", ".vtx[*]", ".ip[0].ig", ".i", ".bogus"})
             names.push_back(name + plug);

@@ -2,19 +2,67 @@
 #include "fuzz/randomMel.h"
 
 #include <algorithm>
-#include <cstring>
+#include <cctype>
 
 namespace
 {
 
-// Commands that leave the case's folder or its process, or that end the way back by undo.
+// Commands that leave the case's folder or its process, that end the way back by undo, or that are
+// about the file and no step of the undo queue.
 bool isLeftOut(const std::string &command)
 {
-    constexpr const char *kLeftOut[] = {"file",       "quit",      "loadPlugin", "unloadPlugin",
-                                        "pluginInfo", "flushUndo", "undoInfo"};
+    constexpr const char *kLeftOut[] = {"file",         "quit",     "loadPlugin",   "unloadPlugin",
+                                        "pluginInfo",   "fileInfo", "currentUnit",  "requires",
+                                        "flushUndo",    "undoInfo", "relationship", "dataStructure",
+                                        "applyMetadata"};
     return std::any_of(std::begin(kLeftOut), std::end(kLeftOut),
                        [&](const char *name) { return command == name; });
 }
+
+// What people do, so that most calls succeed: S a name, I a whole number, D any number.
+const std::string kUsual[] = {
+    "setAttr S D",
+    "setAttr -l on S",
+    "setAttr -s I S",
+    "setAttr S -type \"string\" S",
+    "setAttr S -type \"double3\" D D D",
+    "addAttr -ln \"extra\" -at \"double3\" S",
+    "addAttr -ln \"texts\" -m -dt \"string\" S",
+    "setAttr \"*.texts[I]\" -type \"string\" S",
+    "deleteAttr S",
+    "removeMultiInstance -b on S",
+    "connectAttr -f S S",
+    "connectAttr -na S S",
+    "disconnectAttr S S",
+    "createNode joint -p S",
+    "createNode strangeNode -n S",
+    "delete S",
+    "delete -ch S",
+    "rename S \"renamed1\"",
+    "parent S S",
+    "parent -w S",
+    "parent -add S S",
+    "group S S",
+    "duplicate S",
+    "lockNode -l on S",
+    "select -r S S; delete",
+    "select -add S; group",
+    "polyCube -n S",
+    "joint -p D D D",
+    "skinCluster S S",
+    "skinCluster -e -ai S S",
+    "skinCluster -e -ri S S",
+    "skinCluster -e -mi I S",
+    "skinCluster -e -ub S",
+    "skinPercent -tv S D S S",
+    "skinPercent -nrm off -prw D S S",
+    "sets S S",
+    "sets -rm S S",
+    "xform -ws -t D D D S",
+    "move -r D D D S",
+    "undo",
+    "redo",
+};
 
 } // namespace
 
@@ -39,11 +87,22 @@ std::string RandomMel::value(char kind, Chance &chance) const
         return chance.pick(kIntegers);
     if (kind == 'd')
         return chance.pick(kReals);
-    return '"' + (chance.oneIn(2) ? chance.pick(names_) : chance.pick(kTexts)) + '"';
+    return '"' + (chance.oneIn(4) ? chance.pick(kTexts) : chance.pick(names_)) + '"';
+}
+
+std::string RandomMel::usualStatement(Chance &chance) const
+{
+    std::string text;
+    for (const char c : chance.pick(kUsual))
+        text += c == 'S' || c == 'I' || c == 'D' ? value(char(std::tolower(c)), chance)
+                                                 : std::string(1, c);
+    return text;
 }
 
 std::string RandomMel::statement(Chance &chance) const
 {
+    if (!chance.oneIn(3))
+        return usualStatement(chance);
     const std::string &name = chance.pick(commands_);
     const host::mel::Command &command = *table_.find(name);
     std::string text = name;

@@ -14,10 +14,11 @@ public:
     // `names`: nodes, plugs and components that the calls are about. The table must outlive this.
     RandomMel(const host::mel::CommandTable &table, std::vector<std::string> names);
 
-    // One statement, most often one that is refused.
+    // One statement: something usual about any names, or any command with any flags.
     std::string statement(Chance &chance) const;
 
 private:
+    std::string usualStatement(Chance &chance) const;
     std::string value(char kind, Chance &chance) const;
 
     const host::mel::CommandTable &table_;
