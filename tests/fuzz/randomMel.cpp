@@ -83,7 +83,7 @@ std::string RandomMel::value(char kind, Chance &chance) const
                                          "new1",  "matrix", "float",       "",       "a b"};
     if (kind == 'b')
         return chance.oneIn(2) ? "on" : "off";
-    if (kind == 'i')
+    if (kind == 'i' || kind == 'u')
         return chance.pick(kIntegers);
     if (kind == 'd')
         return chance.pick(kReals);
@@ -111,9 +111,9 @@ std::string RandomMel::statement(Chance &chance) const
     for (std::size_t flags = chance.below(4); flags > 0 && !command.flags.empty(); --flags) {
         const host::mel::Flag &flag = chance.pick(command.flags);
         text += std::string(" -") + (chance.oneIn(2) ? flag.shortName : flag.longName);
-        for (const char *kind = flag.arguments; *kind; ++kind) {
+        for (const char kind : flag.arguments) {
             if (!chance.oneIn(20))
-                text += ' ' + value(*kind, chance);
+                text += ' ' + value(kind, chance);
         }
     }
     for (std::size_t objects = chance.below(4); objects > 0; --objects)
