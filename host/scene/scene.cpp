@@ -161,9 +161,21 @@ bool Scene::hasCamera(const std::string &name) const
            });
 }
 
+// Default cameras of the file that have other names than a new scene's.
+std::size_t Scene::renamedCameras() const
+{
+    std::size_t cameras = 0;
+    for (const auto &entry : nodes_)
+        cameras += entry.second->isShared() && entry.second->isA("camera") ? 1 : 0;
+    for (const DefaultCamera &camera : kDefaultCameras)
+        cameras -= std::min<std::size_t>(cameras, hasCamera(camera.name) ? 1 : 0);
+    return cameras;
+}
+
 void Scene::addMissingCameras()
 {
     const unsigned long next = nextSerial_;
+    std::size_t renamed = renamedCameras();
     std::vector<NodePtr> &topmost = world_->children_;
     std::size_t added = 0;
     for (std::size_t i = 0; i < std::size(kDefaultCameras); ++i) {
@@ -171,6 +183,10 @@ void Scene::addMissingCameras()
         const std::string shapeName = std::string(camera.name) + "Shape";
         if (hasCamera(camera.name))
             continue;
+        if (renamed > 0) {
+            --renamed;
+            continue;
+        }
         nextSerial_ = std::size(kDefaultNodes) + 2 * i;
         const NodePtr transform = addNode(*types_.find("transform"), camera.name, nullptr);
         addNode(*types_.find("camera"), shapeName, transform)->isShared_ = true;

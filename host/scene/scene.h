@@ -193,6 +193,7 @@ private:
     void perform(std::function<void()> redo, std::function<void()> undo);
     void addDefaultNodes();
     bool hasCamera(const std::string &name) const;
+    std::size_t renamedCameras() const;
     NodePtr addNode(const NodeType &type, std::string name, const NodePtr &parent);
     std::vector<NodePtr> candidates(const std::vector<std::string_view> &parts) const;
     // All or nothing, where memory has run out.

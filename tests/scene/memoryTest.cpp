@@ -19,7 +19,7 @@ long requestsLeft = -1;
 
 } // namespace
 
-void *operator new(std::size_t size)
+[[gnu::noinline]] void *operator new(std::size_t size)
 {
     if (requestsLeft >= 0 && requestsLeft-- == 0)
         throw std::bad_alloc();
@@ -28,12 +28,13 @@ void *operator new(std::size_t size)
     throw std::bad_alloc();
 }
 
-void operator delete(void *memory) noexcept
+// Out of line: where only one of the two is inlined, the compiler takes them for a mismatch.
+[[gnu::noinline]] void operator delete(void *memory) noexcept
 {
     std::free(memory);
 }
 
-void operator delete(void *memory, std::size_t) noexcept
+[[gnu::noinline]] void operator delete(void *memory, std::size_t) noexcept
 {
     std::free(memory);
 }

@@ -124,18 +124,20 @@ NodePtr knownPose(const std::vector<DagPath> &influences, PoseChoice choice)
     return {};
 }
 
-// A joint's own bindPose holds for the first pose that it belongs to, further poses keep theirs.
+// A joint's own bindPose holds for the first pose that it belongs to, and for others in which it
+// stands there; the rest keep theirs.
 void storeWorldMatrix(Scene &scene, const NodePtr &pose, const DagPath &path, int index)
 {
     const Plug matrix = pose->plug("worldMatrix").element(index);
     const Matrix value = worldMatrix(path);
     const NodePtr &node = path.node();
-    if (!node->isA("joint") || !node->destinations(node->plug("bindPose")).empty()) {
+    const bool isJoint = node->isA("joint");
+    if (isJoint && node->destinations(node->plug("bindPose")).empty())
+        scene.setValue(node->plug("bindPose"), value);
+    if (isJoint && evaluate(node->plug("bindPose")) == Value(value))
+        scene.connect(node->plug("bindPose"), matrix);
+    else
         scene.setValue(matrix, value);
-        return;
-    }
-    scene.setValue(node->plug("bindPose"), value);
-    scene.connect(node->plug("bindPose"), matrix);
 }
 
 // Takes a transform into the pose, after those above it; returns its index. Transforms that are no
