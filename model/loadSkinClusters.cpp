@@ -3,9 +3,9 @@
 #include "model/weightTableModel.h"
 
 #include "model/mayaText.h"
-#include "model/requireMemory.h"
 #include "model/messages.h"
 #include "model/precisionRounding.h"
+#include "model/requireMemory.h"
 #include "model/selectedShapes.h"
 #include "model/shapeReader.h"
 #include "model/skinClustersOfShape.h"

@@ -32,10 +32,25 @@ void openFile(mel::Interpreter &interpreter, const std::string &path)
                          Session::Replacement::openedFile);
 }
 
+namespace
+{
+
+// A scene that was only looked at is in its file as it is. What a look adds, as the editor its
+// attributes for locks, waits for the first change.
+bool isInItsFile(const Scene &scene, const std::string &path)
+{
+    std::error_code problem;
+    return !scene.isModified() && path == scene.facts.path &&
+           std::filesystem::exists(path, problem);
+}
+
+} // namespace
+
 void saveFile(mel::Interpreter &interpreter, const std::string &path)
 {
     Session &session = interpreter.session();
-    rewriteFile(interpreter, path);
+    if (!isInItsFile(session.scene(), path))
+        rewriteFile(interpreter, path);
     session.scene().facts.path = path;
     session.setFileName(path);
     session.confirmFileName();

@@ -46,7 +46,7 @@ void writePart(Session &session, const std::string &path,
 void rewriteFile(mel::Interpreter &interpreter, const std::string &path);
 
 // Rewrites the scene to what is its file from now on: the session has its name and is unmodified.
-// Throws Error.
+// A scene without changes that is in that file already is not written. Throws Error.
 void saveFile(mel::Interpreter &interpreter, const std::string &path);
 
 // The path from the root, without "..". Throws Error where the working folder is gone.

@@ -315,16 +315,28 @@ std::vector<std::string> Scene::namespaces() const
 
 void Scene::perform(std::function<void()> redo, std::function<void()> undo)
 {
-    redo();
-    Change change{std::move(undo), std::move(redo)};
+    if (!isRecording()) {
+        redo();
+        isModified_ = true;
+        return;
+    }
+    // What was saved is no longer what the scene holds after an undo.
+    const auto marked = [this](std::function<void()> step) {
+        return [this, step = std::move(step)] {
+            step();
+            isModified_ = true;
+        };
+    };
+    const bool wasModified = isModified_;
+    Change change{marked(std::move(undo)), marked(std::move(redo))};
+    change.redo();
     try {
-        if (isRecording())
-            recorder_->recordChange(std::move(change));
+        recorder_->recordChange(std::move(change));
     } catch (...) {
         change.undo();
+        isModified_ = wasModified;
         throw;
     }
-    isModified_ = true;
 }
 
 RecordingPause::RecordingPause(Scene &scene) : scene_(scene), saved_(scene.recorder())

@@ -110,9 +110,14 @@ void SceneEdit::record(Scene &scene, const Plug &plug, const SnapshotPtr &before
     const SnapshotPtr after = take(*node, top, element);
     // The attribute is held too: the node may lose it while the change sits in the queue.
     const AttributePtr held = plug.attribute;
-    scene.recorder_->recordChange(
-        {[node, held, top, element, before] { restore(*node, top, element, *before); },
-         [node, held, top, element, after] { restore(*node, top, element, *after); }});
+    const auto change = [node, held, top, element](const SnapshotPtr &snapshot) {
+        return [node, held, top, element, snapshot] {
+            restore(*node, top, element, *snapshot);
+            if (Scene *owner = node->scene())
+                owner->isModified_ = true; // if it was saved meanwhile
+        };
+    };
+    scene.recorder_->recordChange({change(before), change(after)});
 }
 
 PackedNumbers &SceneEdit::block(Datum &datum, const Attribute &array)

@@ -78,6 +78,27 @@ TEST_F(fileCommand, exportsTheSelectionWithWhatItNeeds)
     EXPECT_EQ(melStrings("ls -type transform"), "top front side persp");
 }
 
+// What was saved and has changed since, undo included, is not yet saved again.
+TEST_F(fileCommand, savesEveryKindOfChange)
+{
+    const std::string file = path("changes.ma");
+    const auto withoutName = [](const std::string &text) {
+        const std::size_t begin = text.find("requires");
+        return text.substr(begin, text.find("// End of") - begin);
+    };
+    mel("createNode joint -n hip; setAttr hip.tx 1; file -rename \"" + file + "\"; file -save");
+    for (const char *change :
+         {"undo", "redo", "rename hip leg", "undo", "redo", "setAttr -l on leg.ty",
+          "addAttr -ln extra -at double leg", "undo", "fileInfo key value", "fileInfo -rm key",
+          "requires \"other\" \"1.0\"", "currentUnit -t ntsc", "lockNode -l on leg"}) {
+        EXPECT_EQ(melString("file -q -modified"), "0") << change;
+        mel(change);
+        EXPECT_EQ(melString("file -q -modified"), "1") << change;
+        mel("file -save");
+        EXPECT_EQ(withoutName(textOf(file)), withoutName(savedText())) << change;
+    }
+}
+
 TEST_F(fileCommand, refusesWithoutTouchingTheScene)
 {
     mel("createNode transform -n old");

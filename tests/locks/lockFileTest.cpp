@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include "locks/lockScene.h"
@@ -21,6 +22,11 @@ protected:
         mel("file -f -new");
         mel("file -f -open \"" + path + "\"");
         mel("select -cl"); // the first event after a scene was opened goes unheard
+    }
+    bool fileSays(const char *text) const
+    {
+        QFile file(folder_.filePath("scene.ma"));
+        return file.open(QIODevice::ReadOnly) && file.readAll().contains(text);
     }
     void lockSome()
     {
@@ -193,9 +199,12 @@ TEST_F(lockFiles, areNotChangedByAnotherWhoLooks)
         EXPECT_FALSE(isModified());
         EXPECT_EQ(melString("objExists bodySkin.lockedVertexIndices"), "1");
         EXPECT_EQ(melString("undoInfo -q -undoName"), "select -r body");
+        mel("file -save");
+        EXPECT_FALSE(fileSays("lockedVertexIndices"));
         on("r1", "newLockSelected");
         EXPECT_TRUE(isModified());
         saveAndOpen();
+        EXPECT_TRUE(fileSays("lockedVertexIndices"));
         call("setAutoUpdate", true);
         mel("select -r crate"); // the opening swallows it
         mel("select -r body");

@@ -245,7 +245,7 @@ TEST_F(SavedText, goesOnUnderANewNameInTheCodesetThatFits)
         "\taddAttr -ci true -sn \"note\" -ln \"note\" -dt \"string\";\n"
         "\tsetAttr \".note\" -type \"string\" \"\x95\x5c\x83\x65\";\n";
     ASSERT_TRUE(open(writeBytes("old.ma", text))) << takeErrors();
-    mel("file -save");
+    mel("file -modified 1; file -save");
     EXPECT_EQ(textOf(path("old.ma")), text);
     const std::string renamed = path("new.ma");
     mel("file -rename \"" + renamed + "\"; file -save");
@@ -269,7 +269,7 @@ TEST_F(SavedText, saysWhatEachRealSceneHoldsAfterAnEdit)
         const std::string text = textOf(entry.path().string());
         const std::string file = writeBytes("scene.ma", text);
         ASSERT_TRUE(open(file)) << takeErrors();
-        mel("file -save");
+        mel("file -modified 1; file -save");
         EXPECT_TRUE(textOf(file) == text) << "an unchanged scene";
 
         const std::string joints = melStrings("ls -type joint");

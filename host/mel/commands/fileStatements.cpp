@@ -23,6 +23,7 @@ MelValue requiresCommand(Context &context, const Arguments &arguments)
         facts.mayaVersion = arguments.objects[1].string();
     else
         facts.requiredPlugins.push_back(statementText("requires", kRequiresFlags, arguments));
+    context.scene().setModified(true);
     return MelValue();
 }
 
@@ -90,6 +91,7 @@ MelValue currentUnit(Context &context, const Arguments &arguments)
             throw Error(std::string("currentUnit: The ") + row.flag +
                         " unit of a scene cannot be changed here.");
         facts.*row.member = name;
+        context.scene().setModified(true);
     }
     if (!context.isReadingFile)
         context.session.raiseUnitChanges(before);
@@ -117,9 +119,11 @@ MelValue fileInfo(Context &context, const Arguments &arguments)
         return queryInfo(info, arguments);
     if (arguments.has("remove")) {
         info.remove(arguments.string("remove"));
+        context.scene().setModified(true);
         return MelValue();
     }
     requireObjectCount("fileInfo", arguments.objects.size(), {2, 2});
+    context.scene().setModified(true);
     info.set(arguments.objects[0].string(), arguments.objects[1].string());
     return MelValue();
 }
