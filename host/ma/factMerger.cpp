@@ -20,6 +20,8 @@ void mergeList(TextMerge &merge, Kind kind, const std::vector<std::string> &now)
     std::size_t last = kind == Kind::trailing ? merge.lastTrailing : merge.lastFact;
     for (std::size_t i = 0; i < merge.before.statements.size(); ++i) {
         const TemplateStatement &statement = merge.before.statements[i];
+        if (kind == Kind::plugin && statement.kind == Kind::version)
+            last = i;
         if (statement.kind != kind)
             continue;
         if (--left[statement.fact] < 0)
