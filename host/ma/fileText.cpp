@@ -140,7 +140,7 @@ void FileText::readHeader()
     header_ = readBytes(kHeaderBytes);
     if (startsWith(header_, kByteOrderMark))
         header_.erase(0, kByteOrderMark.size());
-    const std::size_t lineEnd = header_.find_first_of("\r\n");
+    const std::size_t lineEnd = std::min(header_.find_first_of("\r\n"), header_.size());
     linesEndInCr_ =
         lineEnd + 1 < header_.size() && header_[lineEnd] == '\r' && header_[lineEnd + 1] != '\n';
     endLines(header_);
