@@ -203,6 +203,7 @@ TEST_F(KeptText, mayHaveItsOwnDefaultCameras)
     for (const char *change :
          {"rename persp hello; createNode transform -n persp",
           "createNode transform -n c; parent persp c", "group top", "rename perspShape b",
+          "group side; rename front f", "createNode transform -n a; group -n top a",
           "createNode transform -n c; parent persp c; "
           "parent top c",
           "group front side"}) {
