@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "scene/session.h"
 
+#include <unordered_set>
 #include <utility>
 
 #include "scene/adjacencyCache.h"
@@ -90,6 +91,29 @@ const SelectionList &Session::orderedSelection() const
 namespace
 {
 
+// Merges many items into a list: only one of a node that the list has is compared with the others.
+class Merging
+{
+public:
+    explicit Merging(SelectionList &list) : list_(list)
+    {
+        for (const SelectionItem &item : list.items())
+            nodes_.insert(item.node.get());
+    }
+    bool hasNodeOf(const SelectionItem &item) const { return nodes_.count(item.node.get()) > 0; }
+    void add(const SelectionItem &item)
+    {
+        if (nodes_.insert(item.node.get()).second)
+            list_.append(item);
+        else
+            list_.merge(item);
+    }
+
+private:
+    SelectionList &list_;
+    std::unordered_set<const Node *> nodes_;
+};
+
 void adjust(SelectionList &list, const std::vector<SelectionItem> &items,
             Session::Adjustment adjustment)
 {
@@ -97,10 +121,12 @@ void adjust(SelectionList &list, const std::vector<SelectionItem> &items,
     case Session::Adjustment::replace:
         list.clear();
         [[fallthrough]];
-    case Session::Adjustment::add:
+    case Session::Adjustment::add: {
+        Merging merging(list);
         for (const SelectionItem &item : items)
-            list.merge(item);
+            merging.add(item);
         break;
+    }
     case Session::Adjustment::remove:
         for (const SelectionItem &item : items)
             list.remove(item);
@@ -132,19 +158,23 @@ void adjustOrdered(SelectionList &ordered, const std::vector<SelectionItem> &ite
     }
     if (adjustment == Session::Adjustment::replace)
         ordered.clear();
+    static const std::vector<SelectionItem> kNothing;
     SelectionList merged;
+    Merging merging(merged);
     for (const SelectionItem &item : ordered.items())
-        merged.merge(item);
+        merging.add(item);
     for (SelectionItem item : items) {
-        for (const SelectionItem &existing : merged.items()) {
+        const bool isKnown = merging.hasNodeOf(item);
+        for (const SelectionItem &existing : isKnown ? merged.items() : kNothing) {
             if (item.component && existing.component && existing.sameObject(item) &&
                 existing.component->kind == item.component->kind)
                 item.component->remove(*existing.component);
         }
-        const bool isNew = item.component ? !item.component->elements.empty() : !merged.has(item);
+        const bool isNew =
+            item.component ? !item.component->elements.empty() : !isKnown || !merged.has(item);
         if (!isNew)
             continue;
-        merged.merge(item);
+        merging.add(item);
         ordered.append(std::move(item));
     }
 }

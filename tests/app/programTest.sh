@@ -95,7 +95,7 @@ refused "korvex: --save is given more than once" -save old.ma -save new.ma
 refused "korvex: standard input is either*" -file - -script -
 refused "korvex: this argument is not UTF-8: *" -file $'\xff.ma' -save old.ma
 refused "korvex: Unknown option 'fiel'.*" -fiel old.ma
-run=korvexOnAFullDisk refused "Error: $PWD/old.ma: The file could not be written: *" -file old.ma -save old.ma
+run=korvexOnAFullDisk refused "Error: $PWD/old.ma: The file could not be written: *" -file old.ma -command 'file -modified 1' -save old.ma
 korvex --batch -save - >/dev/full 2>/dev/null && fail "a full standard output goes unnoticed"
 mkdir gone && cd gone && rmdir ../gone
 batch 1 "" "Error: old.ma: The folder that the program was started in is gone*" -file old.ma
