@@ -61,15 +61,17 @@ MString firstName(const MSelectionList &selection)
 
 void weightTableModel::refreshSkinClusterData()
 {
-    loadSelection();
+    if (!loadSelection())
+        return;
     MSelectionList selection;
     MGlobal::getActiveSelectionList(selection);
     if (weights_.shapeCount() == 0 && !selection.isEmpty())
         MGlobal::displayWarning(messageWith(kNothingSkinnedSelected, firstName(selection)));
 }
 
-void weightTableModel::loadSelection()
+bool weightTableModel::loadSelection()
 {
+    bool hasMemory = true;
     beginResetModel();
     weightsBeforeLoad_ = weights_;
     MSelectionList selection;
@@ -86,6 +88,7 @@ void weightTableModel::loadSelection()
         weights_ = weightList();
         forgetSnapshots();
         MGlobal::displayError(kOutOfMemory);
+        hasMemory = false;
     }
     endResetModel();
 
@@ -94,6 +97,7 @@ void weightTableModel::loadSelection()
         MGlobal::displayError(kRowWithoutColumns);
     if (rounding.metRowWithoutWeight())
         MGlobal::displayError(kRowWithoutWeight);
+    return hasMemory;
 }
 
 void weightTableModel::readSelection(const MSelectionList &selection, wholeListRounding &rounding)

@@ -75,8 +75,9 @@ public:
 
     // Replaces the table by the weights of what is selected in Maya. Shapes without a skin cluster,
     // and those of which faces or edges are selected, add nothing. While auto update is on, an
-    // empty selection keeps the table. It ends empty, with an error, where memory does not suffice.
-    void loadSelection();
+    // empty selection keeps the table. It ends empty, with an error, where memory does not suffice;
+    // false then.
+    bool loadSelection();
 
     // Selects the rows of the mesh vertices that are selected in Maya, and no others. Picked faces
     // and edges, and vertices that are not loaded, select nothing.
