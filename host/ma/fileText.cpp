@@ -10,6 +10,7 @@
 
 #include "ma/standardStream.h"
 #include "scene/error.h"
+#include "scene/lineCount.h"
 
 namespace host::ma
 {
@@ -162,7 +163,7 @@ void FileText::refuseNulBytes(std::string_view bytes)
 {
     const std::size_t nul = bytes.find('\0');
     const std::string_view before = bytes.substr(0, nul);
-    line_ += std::size_t(std::count(before.begin(), before.end(), '\n'));
+    line_ += lineEndsIn(before);
     if (nul != std::string_view::npos)
         throwFileError(path_, line_, "NUL byte: this is not a text file");
 }

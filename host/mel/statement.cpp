@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "mel/statement.h"
 
-#include <algorithm>
 #include <cstring>
 
 #include "mel/characters.h"
 #include "mel/operandText.h"
+#include "scene/lineCount.h"
 
 namespace host::mel
 {
@@ -83,7 +83,7 @@ std::size_t statementEnd(std::string_view text, std::size_t &lines)
         else
             isFound = *here++ == ';';
     }
-    lines += static_cast<std::size_t>(std::count(begin, here, '\n'));
+    lines += lineEndsIn(text.substr(0, static_cast<std::size_t>(here - begin)));
     return isFound ? static_cast<std::size_t>(here - begin) : std::string_view::npos;
 }
 
