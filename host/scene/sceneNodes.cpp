@@ -59,7 +59,9 @@ void refuseAsParent(const Node &node)
 template <typename List, typename Item>
 void insertAt(List &list, std::size_t place, Item &&item)
 {
-    list.insert(list.begin() + long(std::min(place, list.size())), std::forward<Item>(item));
+    const std::size_t size = list.size();
+    list.push_back(std::forward<Item>(item));
+    std::rotate(list.begin() + long(std::min(place, size)), list.end() - 1, list.end());
 }
 
 template <typename List, typename Item>
